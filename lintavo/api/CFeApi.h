@@ -1,0 +1,182 @@
+// The façade: one window behind plain C types, for hosts built with any tools.
+//
+// Every member forwards to the window (CMFenster) that the object owns; see
+// there for the meaning of a window's parts. Nothing is ever thrown across this
+// boundary, and any index may be passed.
+#pragma once
+
+#include "lintavo/api/CFeApiPolygon.h"
+#include "lintavo/api/CFeApiWandOeffnungsParameter.h"
+#include "lintavo/platform/Export.h"
+
+class CMFenster;
+
+/// Kinds of a sash's filling.
+enum eFeApiFuellArten {
+  eFeApiFuellungGlas = 0,      ///< glass; also the answer for a bad index
+  eFeApiFuellungKonstant = 1,  ///< a panel of constant thickness
+  eFeApiFuellungLamellen = 2   ///< horizontal slats
+};
+
+/// A window as a host sees it.
+///
+/// Lengths are in the window's own drawing units, angles in degrees unless
+/// said otherwise; indices count from 0. Members with an `int` result answer 1
+/// for success and 0 for failure. Queries read the last calculation; setters
+/// only store, and the host calls `Berechne` when its changes are complete.
+/// Only reading and `Berechne` change the error number and text.
+///
+/// Kinds of components (`lArt`): 1 frame parts, 2 single parts (mullions,
+/// transoms, extra parts), 3 glazing bars (sashes only).
+///
+/// An object is used by one thread at a time; different objects are
+/// independent.
+class LINTAVO_API CFeApi {
+ public:
+  /// An empty window.
+  CFeApi();
+  /// A copy of the other's window.
+  CFeApi(const CFeApi& other);
+  /// Copies the other's window when both objects have one.
+  CFeApi& operator=(const CFeApi& other);
+  ~CFeApi();
+
+  /// Empties the window; the object stays usable.
+  void DeleteFenster();
+
+  // --- errors -------------------------------------------------------------
+
+  /// Number of the last error, 0 for none, -1 when there is no window object.
+  long GetErrorID() const;
+  /// Text of the last error: the 256 bytes are zeroed, then at most 256 are
+  /// copied, so a text of 256 bytes or more has no terminating zero. Returns
+  /// the number of bytes copied.
+  long GetErrorMsg(char (&text)[256]) const;
+
+  // --- reading and writing ------------------------------------------------
+
+  /// Reads a plain macro file and calculates the window. 1 only if both succeed.
+  int ReadFromFile(const char* path);
+  /// Reads a compressed macro file (one zlib stream of CR LF text) and
+  /// calculates the window. Part of the format: at most 10000 bytes of the file
+  /// and 10000 bytes of text count, and a damaged stream gives what could be
+  /// inflated. 0 when the file cannot be opened or the window fails.
+  int ReadFromCompressedFile(const char* path);
+  /// Reads a buffer whose lines end with '#', as `WriteToBuffer` makes it.
+  int ReadFromBuffer(long length, const char* buffer);
+  /// Reads `length` bytes whose lines end with `separator`; line feeds are
+  /// skipped and bytes after the last separator are dropped.
+  int ReadFromBuffer(long length, const char* buffer, int separator);
+  /// Writes the plain macro file. The axis grid is compacted first.
+  int WriteToFile(const char* path);
+  /// Hands out the macro file's lines, each followed by '#', without a
+  /// terminating zero. The block belongs to the caller, who returns it through
+  /// `FreeBuffer`. On failure both outputs are left as they were.
+  void WriteToBuffer(long* length, char** buffer) const;
+  /// Releases a block of `WriteToBuffer` and sets the pointer to null; a null
+  /// pointer is left alone.
+  void FreeBuffer(char** buffer) const;
+
+  // --- files, without a window --------------------------------------------
+
+  /// 1 when the path ends in "cqz" in any case (a dot is not asked for).
+  static int IsFileCompressed(const char* path);
+  /// 1 when the path ends in "tmp" in any case.
+  static int IsFileTemporary(const char* path);
+  /// The window's designation as stored in a plain or compressed macro file.
+  /// `name` is cleared in every case. Returns the number of bytes copied.
+  static long GetBezeichnungFromFile(const char* path, char (&name)[256]);
+  /// First macro file ("aqz" or "cqz") of a folder tree, depth first, in the
+  /// order of the file system. 1 and its path, or 0 and a cleared `path`.
+  static int GetValidMakroFile(const char* directory, char (&path)[256]);
+
+  // --- the window ---------------------------------------------------------
+
+  /// Copies the window's designation; returns the number of bytes copied.
+  long GetFensterBezeichnung(char (&name)[256]) const;
+  double GetFensterBreite() const;  ///< overall width of the calculated window
+  double GetFensterHoehe() const;   ///< overall height of the calculated window
+  /// Recalculates the window from its stored description.
+  int Berechne();
+
+  // --- the frame ----------------------------------------------------------
+
+  double GetRahmenBreite() const;  ///< width of the first frame part, 0.0 without one
+  double GetRahmenDicke() const;   ///< thickness of the first frame part, 0.0 without one
+  int SetRahmenBreite(double width);     ///< all frame parts; width at least 1e-6
+  int SetRahmenDicke(double thickness);  ///< all frame parts; thickness at least 1e-6
+  /// Number of frame components of kind 1 or 2 that have a width and a length.
+  long GetAnzahlRahmenBauteile(long lArt) const;
+  long GetAnzahlRahmenBauteilSegmente(long lArt, long i) const;
+  double GetRahmenBauteilDicke(long lArt, long i) const;
+  /// Outline of segment `lSegment` of a frame component, the length of the
+  /// segment's axis and its two cut angles in degrees. Segment -1: the joined
+  /// outline of all segments, the total length and the outer angles. The record
+  /// handed in is emptied first.
+  int GetRahmenBauteilUmriss(long lArt, long i, long lSegment, CFeApiPolygon& umriss,
+                             double& dLaenge, double& dWinkelAnfang, double& dWinkelEnde) const;
+
+  // --- the sashes ---------------------------------------------------------
+
+  /// Number of sashes; -1 when there is no window object.
+  long GetAnzahlFluegel() const;
+  long GetFluegelName(long i, char (&name)[256]) const;
+  double GetFluegelRahmenBreite(long i) const;
+  double GetFluegelRahmenDicke(long i) const;
+  double GetFluegelUeberschlag(long i) const;  ///< overlap of the sash on its frame
+  /// Depth offset of sash `i` on one side: side 0 is inside, 1 outside.
+  double GetFluegelZVersatz(long i, long side) const;
+  int SetFluegelRahmenBreite(long i, double width);
+  int SetFluegelRahmenDicke(long i, double thickness);
+  int SetFluegelUeberschlag(long i, double overlap);  ///< overlap at least 0.0
+  int SetFluegelZVersatz(long i, double offset);      ///< offset at least 0.0
+  /// Number of components of sash `i` of kind 1, 2 or 3.
+  long GetFluegelAnzahlBauteile(long lArt, long iFluegel) const;
+  long GetFluegelAnzahlBauteilSegmente(long lArt, long iFluegel, long i) const;
+  double GetFluegelBauteilDicke(long lArt, long iFluegel, long i) const;
+  /// As `GetRahmenBauteilUmriss`, for component `i` of sash `iFluegel`.
+  int GetFluegelBauteilUmriss(long lArt, long iFluegel, long i, long lSegment,
+                              CFeApiPolygon& umriss, double& dLaenge, double& dWinkelAnfang,
+                              double& dWinkelEnde) const;
+  /// The sash's inner outline with inner extra parts, moved outwards by `d`
+  /// (0 = as it is; the rebate in which the glass sits is positive).
+  int GetFluegelInnenPolygon(long i, double d, CFeApiPolygon& polygon) const;
+  eFeApiFuellArten GetFluegelFuellungArt(long i) const;
+  double GetFluegelFuellungDicke(long i) const;
+  long GetAnzahlBeschlaege(long i) const;  ///< fittings of sash `i`; -1 for a bad index
+  long GetAnzahlSprossen(long i) const;    ///< glazing bars of sash `i`; -1 for a bad index
+  double GetSprossenBreite(long i, long j) const;
+  double GetSprossenDicke(long i, long j) const;
+  int SetSprossenBreite(long i, long j, double width);
+  int SetSprossenDicke(long i, long j, double thickness);
+
+  // --- additional dimensions ----------------------------------------------
+
+  long GetAnzahlZusatzMasze() const;
+  long GetZMaszName(long i, char (&name)[256]) const;
+  /// The stored length with its sign; 0.0 for a bad index.
+  double GetZMaszLaenge(long i) const;
+  /// Stores a length of at least 1e-6. A dimension whose stored length is
+  /// negative takes the negated value: the sign is the side it is counted to.
+  int SetZMaszLaenge(long i, double length);
+  /// The same for dimension `i` and every other one of its name (any case).
+  int SetZMaszLaengeMitName(long i, double length);
+  /// 1 when the window has an overall width and an overall height dimension.
+  int IsZMaszBreiteHoehe() const;
+  /// The same, with the index of each that was found, else -1.
+  int IsZMaszBreiteHoehe(long& h, long& v) const;
+
+  // --- the wall opening ---------------------------------------------------
+
+  /// Outline of the opening that this window fits into.
+  int GetWandOeffnung(const CFeApiWandOeffnungsParameter& param, CFeApiPolygon& polygon) const;
+  /// Width and height of that opening's bounding box.
+  int GetOeffMasze(const CFeApiWandOeffnungsParameter& param, double& width, double& height) const;
+  /// Gives the overall width and height dimensions the lengths with which the
+  /// window fits into an opening of width × height; `Berechne` then applies
+  /// them. 0 without both dimensions.
+  int SetBreiteHoehe(const CFeApiWandOeffnungsParameter& param, double width, double height);
+
+ private:
+  CMFenster* pFenster_ = nullptr;
+};
