@@ -1,0 +1,241 @@
+// The window: its grid, frame, sashes and dimensions, and their calculation.
+//
+// Sources by theme: CMFenster.cpp (lists, state), _Datei (macro file),
+// _Berechnung (the calculation), _Pfosten (mullions and transoms),
+// _Masze (dimensions that drive the grid), _Zeichnung (sizes and drawings).
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "lintavo/geom/GEOM2_Polygon.h"
+#include "lintavo/geom/XY.h"
+#include "lintavo/model/CMAchsen.h"
+#include "lintavo/model/CMBauteil.h"
+#include "lintavo/model/CMException.h"
+#include "lintavo/model/CMKnoten.h"
+#include "lintavo/model/CMZusatzMasz.h"
+#include "lintavo/platform/CSize.h"
+#include "lintavo/platform/CString.h"
+#include "lintavo/platform/Export.h"
+#include "lintavo/sash/CMFensterSatz.h"
+
+class CIniFile;
+
+/// A parametric window.
+///
+/// The window owns its grid, frame, sashes and dimensions; a copy is deep.
+/// Pointers that it hands out stay valid until the list they point into
+/// changes or the window is emptied. Lengths are drawing units; x grows to the
+/// right and y upwards, seen from inside the building.
+///
+/// Reading and calculating never throw: they answer false and keep the error's
+/// number and text. Operations that build the window step by step
+/// (`AddFluegel`, `ZusatzMaszeFuerBreiteUndHoeheAutomatisch`, the dimension
+/// steps) throw `CMException`.
+class LINTAVO_API CMFenster {
+ public:
+  CMFenster();
+  CMFenster(const CMFenster& other);
+  CMFenster& operator=(const CMFenster& other);
+  virtual ~CMFenster();
+
+  // --- state -----------------------------------------------------------------
+
+  /// Empties the window and clears the error.
+  void Delete();
+  /// True once the window was read or changed after its last calculation.
+  bool IsNeu() const { return neu_; }
+  /// Marks the window changed and drops the axes of mullions and transoms, so
+  /// that the next calculation lays them between their nodes.
+  void Invalidiere();
+  /// The same; with `neuLaden` the window is also written to a document and
+  /// read back from it.
+  void Invalidiere(bool neuLaden);
+  /// Number of the last error, 0 for none.
+  long GetFehler() const { return fehlerNummer_; }
+  /// The same, and its text.
+  long GetFehler(CString& text) const;
+  /// Keeps a free text as the last error, with the number 1.
+  void SetErrorMsg(const CString& text);
+
+  const CString& GetName() const { return name_; }
+  void SetName(const CString& name) { name_ = name; }
+  const CString& GetTypName() const { return typName_; }
+  void SetTypName(const CString& name) { typName_ = name; }
+  const CString& GetDateiName() const { return dateiName_; }
+  /// Whether the window refers to bitmaps.
+  bool IsBitmap() const { return !bitmap1_.IsEmpty() || !bitmap2_.IsEmpty(); }
+  const CString& GetBitmap1() const { return bitmap1_; }
+  const CString& GetBitmap2() const { return bitmap2_; }
+  void SetBitmaps(const CString& bitmap1, const CString& bitmap2);
+
+  CMAchsen& GetAchsen() { return achsen_; }
+  const CMAchsen& GetAchsen() const { return achsen_; }
+  /// The outer frame, owned by the window; never null.
+  CMFensterSatz* GetRahmenPtr() { return &rahmen_; }
+  const CMFensterSatz* GetRahmenPtr() const { return &rahmen_; }
+  /// Longest side, in drawing units, that is merged into a bent frame part.
+  double GetRahmenAbschnitt() const { return rahmenAbschnitt_; }
+  void SetRahmenAbschnitt(double length) { rahmenAbschnitt_ = length; }
+  /// Template of the mullions and transoms that a calculation sets by itself.
+  CMBauteil& GetPfostenVorlage() { return pfostenVorlage_; }
+  const CMBauteil& GetPfostenVorlage() const { return pfostenVorlage_; }
+
+  // --- sashes ----------------------------------------------------------------
+
+  /// A new, empty sash of shape 1 rectangle, 2 arch, 3 ellipse, 4 half arch,
+  /// owned by the caller; null for any other number.
+  static CMFensterSatz* NewFluegelPtr(long lForm);
+  /// Creates a sash between two corner nodes and appends it. Returns the sash,
+  /// owned by the window; null for an unknown shape. Throws 22 when its outline
+  /// has no area, 23 when it overlaps another sash, and what its shape throws;
+  /// the window is then unchanged.
+  CMFensterSatz* AddFluegel(long lForm, long lTyp2, const CMKnoten& k1, const CMKnoten& k2);
+  /// The same with the reference nodes of a shared arch.
+  CMFensterSatz* AddFluegel(long lForm, long lTyp2, const CMKnoten& k1, const CMKnoten& k2,
+                            const CMKnoten& kAL, const CMKnoten& kAR);
+  long GetAnzahlFluegel() const { return static_cast<long>(fluegel_.size()); }
+  /// Sash `i` or, by name in any case, the first one; null when there is none.
+  CMFensterSatz* GetFluegelPtr(long i);
+  const CMFensterSatz* GetFluegelPtr(long i) const;
+  CMFensterSatz* GetFluegelPtr(const CString& name);
+  /// Index of a sash of this window, else -1.
+  long GetFluegelNr(const CMFensterSatz* fluegel) const;
+  /// Removes sash `i`, all dimensions and the content of the frame. False for a
+  /// bad index.
+  bool DeleteFluegel(long i);
+
+  // --- mullions and transoms -------------------------------------------------
+
+  /// Appends a copy of the template between two nodes to the frame's single
+  /// parts; the calculation gives it its axis. Returns the stored component.
+  CMBauteil* AddRahmenEinzelBauteil(const CMKnoten& k1, const CMKnoten& k2,
+                                    const CMBauteil& vorlage);
+  CMBauteil* GetRahmenEinzelBauteilPtr(long i) { return rahmen_.GetEinzelBauteilPtr(i); }
+  long GetRahmenEinzelBauteilNr(const CMBauteil* bauteil) const {
+    return rahmen_.GetEinzelBauteilNr(bauteil);
+  }
+  bool DeleteRahmenEinzelBauteil(long i) { return rahmen_.DeleteEinzelBauteil(i); }
+
+  // --- macro file ------------------------------------------------------------
+
+  /// Reads a plain macro file; the window is emptied first. False, with the
+  /// window empty and error 28, when the file cannot be opened. A document
+  /// whose content is rejected still counts as read.
+  bool ReadFromFile(const CString& path);
+  /// Fills the (empty) window from a document.
+  bool ReadFromBuffer(CIniFile& document);
+  /// Writes the window into a fresh document. Always true.
+  bool SaveToBuffer(CIniFile& document) const;
+  /// Compacts the grid and writes the macro file, and beside it on request the
+  /// blank parameter form (same name in lower case, ending in txt). False when
+  /// the path is empty or a file cannot be written.
+  bool SaveToFile(const CString& path);
+  bool SaveToFile(bool withParameterForm, const CString& path);
+  /// Drops axes outside the range that the sashes use and brings the first used
+  /// one of each direction to 0.
+  void AchsRasterOptimieren();
+
+  // --- calculation -----------------------------------------------------------
+
+  /// Derives everything from the stored description: axis distances, frame
+  /// outline and parts, mullions and transoms, sashes, bars. On request it sets
+  /// mullions and transoms along the sashes' common edges by itself. False on
+  /// an error, which is kept; the window then holds what the completed steps
+  /// wrote.
+  bool Berechne(bool bPfostenRiegelAutomatisch);
+  /// One outline per sash, in sash order. `dExtrem` is raised to the highest y
+  /// of all outlines.
+  void GetFluegelGrundformen(std::vector<GEOM2_Polygon>& grundformen, double& dExtrem);
+  /// Lets arched sashes fit their rise to the dimensions; true when one changed.
+  bool FluegelStichAnpassung(std::vector<GEOM2_Polygon>& grundformen);
+  void PfostenUndRiegelAutomatischSetzen(const GEOM2_Polygon& innen,
+                                         const std::vector<GEOM2_Polygon>& grundformen);
+  void PfostenUndRiegelVerschneiden(const GEOM2_Polygon& innen);
+  /// Widens the bounding box by the outer extra parts and fits their ends.
+  void AussenZusatzteilAnschluesseBerechnen();
+
+  // --- dimensions ------------------------------------------------------------
+
+  /// Appends a copy; returns its index.
+  long AddZusatzMasz(const CMZusatzMasz& masz);
+  long GetAnzahlZusatzMasze() const { return static_cast<long>(zusatzMasze_.size()); }
+  /// Dimension `i`, null for a bad index.
+  CMZusatzMasz* GetZusatzMaszPtr(long i);
+  const CMZusatzMasz* GetZusatzMaszPtr(long i) const;
+  /// Index by identity, else -1.
+  long GetZusatzMaszNr(const CMZusatzMasz* masz) const;
+  bool DeleteZusatzMasz(long i);
+  /// Removes all dimensions and makes every axis movable. Always true.
+  bool DeleteZusatzMasze();
+  /// Attaches a dimension to the grid: its length becomes the present span of
+  /// its two nodes. False unless the nodes lie on different axes of the measured
+  /// direction, both on the grid, in the order of the length's sign.
+  bool ZusatzMaszVerbinden(CMZusatzMasz& masz) const;
+  /// Makes the span from axis i1 to axis i2 equal `dSoll`, spreading the change
+  /// evenly over movable axes between them; i1 and i2 are fixed afterwards. False
+  /// when i2 is fixed already, i1 equals i2, or no dimension is given. A length
+  /// below 1e-6 changes nothing and is no failure.
+  bool NeuenAchsAbstandSetzen(const CMZusatzMasz* masz, long i1, long i2, double dSoll);
+  /// Moves one axis so that its span from axis `iVon` becomes `dWert`; all other
+  /// axes keep their positions. Throws 49 with `name` when `iAchse` is not an
+  /// axis or the length is not finite.
+  void AchseVerschieben(bool bVerti, int iVon, int iAchse, double dWert, const CString& name);
+  /// Applies all dimensions to the axes. Returns the first that cannot be
+  /// applied, or null. Throws 49, naming the dimension, when axes in use end up
+  /// in the wrong order.
+  CMZusatzMasz* ZusatzMaszAchsVerschiebungen();
+  /// Applies dimensions between free corner points to the frame outline and the
+  /// given sash outlines. Returns the first that cannot be applied, or null.
+  CMZusatzMasz* ZusatzMaszRahmenEckenVerschiebungen(std::vector<GEOM2_Polygon>& grundformen);
+  /// The corner of the frame outline nearest to a corner point, at most
+  /// `tolerance` away.
+  bool RahmenEckpunktFangen(const CMKnoten& knoten, double tolerance, long& index) const;
+  /// Moves one corner of the frame outline, and of every sash outline that has a
+  /// vertex there, along one direction. Throws when both shifts are given.
+  void RahmenEckpunktVerschieben(const CMKnoten& knoten, long index, double dx, double dy,
+                                 std::vector<GEOM2_Polygon>& grundformen);
+  /// Replaces all dimensions by the overall width and height, named "Breite"
+  /// and "Hoehe", with their lines at distance `dAbstand`. Returns false on
+  /// success, on purpose: callers do not test it. Throws 24.
+  bool ZusatzMaszeFuerBreiteUndHoeheAutomatisch(double dAbstand);
+  /// Widens the given range by the axes that the sashes' nodes use. Callers
+  /// preset the minima with 30000 and the maxima with 0.
+  void GetMinMaxAchsIndizes(long& minJ, long& maxJ, long& minK, long& maxK) const;
+
+  // --- size ------------------------------------------------------------------
+
+  /// Width and height of the bounding box, never negative.
+  void GetSize(XY& size) const;
+  void GetSize(CSize& size) const;
+
+  /// Readable dump for diagnostics.
+  void Trace() const {}
+
+ private:
+  struct Box {
+    double xmin = 0.0;
+    double ymin = 0.0;
+    double xmax = 0.0;
+    double ymax = 0.0;
+  };
+
+  bool SaveParameterBlankoFormularToBuffer(CIniFile& document) const;
+
+  bool neu_ = true;
+  CString dateiName_;
+  CString name_;
+  CString typName_;
+  CString bitmap1_;
+  CString bitmap2_;
+  CMAchsen achsen_;
+  CMFensterSatz rahmen_;
+  double rahmenAbschnitt_ = 100.0;
+  CMBauteil pfostenVorlage_;
+  std::vector<std::unique_ptr<CMFensterSatz>> fluegel_;
+  Box box_;
+  std::vector<CMZusatzMasz> zusatzMasze_;
+  long fehlerNummer_ = 0;
+  CString fehlerText_;
+};

@@ -1,0 +1,248 @@
+// The record of a sash, and of the window's outer frame.
+//
+// The record holds what a sash is made of and derives its frame parts, contours
+// and bars; the outline comes from its shape class. Sources by theme:
+// CMFensterSatz.cpp (state, lists), _Datei (file section), _Rahmen (frame
+// polygon and parts), _Sprossen (glazing bars), _Zusatzteile (extra parts).
+#pragma once
+
+#include <vector>
+
+#include "lintavo/geom/GEOM2_Polygon.h"
+#include "lintavo/geom/XY.h"
+#include "lintavo/model/CMBauteil.h"
+#include "lintavo/model/CMKnoten.h"
+#include "lintavo/platform/CString.h"
+#include "lintavo/platform/Export.h"
+#include "lintavo/sash/CMBeschlag.h"
+#include "lintavo/sash/CMFuellung.h"
+
+class CIniFile;
+class CMAchsen;
+class CMFenster;
+
+/// Shape codes of sashes, the values of `CMFensterSatz::lForm`.
+enum eFluegelFormen : int {
+  eFormRechteck = 1,
+  eFormBogen = 2,
+  eFormEllipse = 3,
+  eFormHalbBogen = 4
+};
+
+/// One coefficient of a rectangle's corner, in drawing units.
+struct FormBeiwert {
+  double dWert = 0.0;
+  bool bFest = true;  ///< keeps its value when the sash is stretched
+};
+
+/// A sash ("Fluegel") or the window's frame ("Rahmen").
+///
+/// The object owns its lists, filling and fittings by value; a copy is deep.
+/// Pointers to components stay valid until their list changes. Lengths are
+/// drawing units, angles degrees. Outlines run counter-clockwise, so a frame
+/// part lies on the left of its axes.
+class LINTAVO_API CMFensterSatz {
+ public:
+  CMFensterSatz();
+  CMFensterSatz(const CMFensterSatz&) = default;
+
+  // --- virtual operations, in the order that every shape keeps ---------------
+
+  virtual ~CMFensterSatz() = default;
+  /// Copies every field, the shape code included.
+  virtual CMFensterSatz& operator=(const CMFensterSatz&) = default;
+  /// Appends what `section` holds. False, without a message, when the frame
+  /// thickness or a corner node is missing; what was read until then stays.
+  virtual bool ReadFromIniFile(const CString& section, CIniFile& document);
+  /// Writes the whole section. Always true.
+  virtual bool SaveToIniFile(const CString& section, CIniFile& document) const;
+  /// Stretches movable shape coefficients after the sash's extent along one
+  /// direction grew by `delta` per axis interval.
+  virtual void FormBeiwerteAnpassen(bool horizontal, const CMAchsen& axes, long i1, long i2,
+                                    double delta);
+  /// Fits the rise of an arch to the window's vertical dimensions; true when it
+  /// changed. May throw message 49.
+  virtual bool bStichAnpassen(CMFenster& fenster);
+  /// Corners of the outline's bounding box: top left, bottom left, top right,
+  /// bottom right. Always true.
+  virtual bool Get4BorderPoints(XY& a, XY& b, XY& c, XY& d, const GEOM2_Polygon& outline) const;
+  /// Builds the outline from the placement points (two opposite corners, left
+  /// and right reference point). The record without a shape has none: false.
+  virtual bool BerechneGrundform(const XY& p1, const XY& p2, const XY& p3, const XY& p4,
+                                 GEOM2_Polygon& outline);
+  /// Diagnostic hook without effect.
+  virtual void Trace() const {}
+
+  // --- state ---------------------------------------------------------------
+
+  /// Resets the plain fields; nodes, frame template, lists, filling and rises
+  /// stay as they are.
+  void Init();
+  /// Empties the lists and the frame polygon, then `Init`. The single parts go
+  /// only when `auchEinzelTeile` is true.
+  void Delete(bool auchEinzelTeile = true);
+  void DeleteAlleSprossen() { Sprossen.clear(); }
+  void DeleteBeschlaege() { Beschlaege.clear(); }
+  void SetName(const CString& name) { strName = name; }
+  bool IsZuerstAufgehend() const { return bZuerstAufgehend; }
+
+  /// Stores coefficient `i`: 0 top left, 1 top right, 2 bottom left, 3 bottom
+  /// right. The index must be 0..3; it is not checked in release builds.
+  void SetFormBeiwertX(long i, double value, bool fixed);
+  void SetFormBeiwertY(long i, double value, bool fixed);
+
+  /// Sets the frame template; p, q, r, s become the attributes a3, a1, a4, a2.
+  void SetRahmenDefaults(double width, double thickness, double width2, int p, int q, int r,
+                         int s);
+  /// The same with p = q and r = s.
+  void SetRahmenDefaults(double width, double thickness, double width2, int p, int r);
+
+  // --- short texts of opening side, opening kind and hinge side --------------
+
+  /// Index of a short text in any case; -1 when there is none.
+  static long GetOeffSeitenIndex(const CString& text);
+  static long GetGangArtIndex(const CString& text);
+  static long GetAnschlagIndex(const CString& text);
+  /// Short text of an index, which must be valid; it is not checked in release
+  /// builds.
+  static CString GetOeffSeitenKurzText(long i);
+  static CString GetGangArtKurzText(long i);
+  static CString GetAnschlagKurzText(long i);
+
+  // --- parts of the file section ---------------------------------------------
+
+  bool ReadFuellungFromIniFile(const CString& section, CIniFile& document);
+  bool SaveFuellungToIniFile(const CString& section, CIniFile& document) const;
+  bool ReadGangartFromIniFile(const CString& section, CIniFile& document);
+  bool SaveGangartToIniFile(CString& section, CIniFile& document) const;
+  /// Writes the components into a blank parameter form, lengths times ten:
+  /// `lArt` 0 the window's frame ("R" and "Z" lists), 1 a sash ("F" lists).
+  void SaveBauteileToParameterFormular(long lArt, const CString& section,
+                                       CIniFile& document) const;
+
+  // --- frame polygon, frame parts and contours -------------------------------
+
+  /// Numbers the polygon's sides by frame part in its attributes: runs of sides
+  /// shorter than `maxLength` that turn by less than `maxAngle` share a number.
+  /// Returns the number of frame parts, -1 for an empty polygon.
+  long RahmenSegmenteZusammenfassen(double maxLength, double maxAngle,
+                                    GEOM2_Polygon& polygon) const;
+  /// Builds the frame polygon of this sash from its outline: each side moves in
+  /// by the window frame's part or the mullion it lies on, and out by the
+  /// overlap. False when nothing of the outline remains. The last argument is
+  /// not used.
+  bool BerechneRahmenPolygon(double maxLength, double maxAngle, const CMFensterSatz& frame,
+                             const GEOM2_Polygon& outline, long unused = 0);
+  /// Creates or updates the frame parts along the frame polygon, mitred so that
+  /// their outlines tile the ring between it and the inner contour. False with
+  /// fewer than three vertices; throws 19 or 22 when the ring cannot be built.
+  bool ErzeugeRahmenBauteile();
+  /// Contour around all extra parts. False with fewer than three vertices;
+  /// throws 22 when nothing remains.
+  bool ErzeugeRahmenAussenPolygon(GEOM2_Polygon& out) const;
+  /// The same with the extra parts of one side only.
+  bool ErzeugeRahmenAussenPolygon(GEOM2_Polygon& out, long side) const;
+  /// Contour inside the frame parts and, on request, the inner extra parts.
+  /// False with fewer than three vertices; throws 22 when nothing remains.
+  bool ErzeugeRahmenInnenPolygon(bool mitZusatzteilen, GEOM2_Polygon& out) const;
+  bool ErzeugeRahmenInnenPolygon(GEOM2_Polygon& out) const {
+    return ErzeugeRahmenInnenPolygon(true, out);
+  }
+  /// Widths of all extra parts on a side, without the frame part's own.
+  double GetAbstandZurRahmenAussenSeite(long side) const;
+  /// Width of the side's frame part and, on request, of the inner extra parts
+  /// on it. 0.0 without a frame part.
+  double GetAbstandZurRahmenInnenSeite(bool mitZusatzteilen, long side) const;
+
+  /// Number of the frame part to which a side belongs; -1 for a bad index.
+  long GetBauteilNr(const GEOM2_Polygon& polygon, long side) const;
+  /// The frame part to which a side belongs, or null.
+  CMBauteil* GetBauteilPtr(const GEOM2_Polygon& polygon, long side);
+  const CMBauteil* GetBauteilPtr(const GEOM2_Polygon& polygon, long side) const;
+  /// Frame part `i`; the template when `i` is past the end, so that callers get
+  /// the defaults; null for a negative index or a sash without a frame.
+  CMBauteil* GetRahmenBauteilPtr(long i);
+  const CMBauteil* GetRahmenBauteilPtr(long i) const;
+  /// Single part / glazing bar `i`, null for a bad index.
+  CMBauteil* GetEinzelBauteilPtr(long i);
+  const CMBauteil* GetEinzelBauteilPtr(long i) const;
+  CMBauteil* GetSprossenBauteilPtr(long i);
+  const CMBauteil* GetSprossenBauteilPtr(long i) const;
+  /// Number of components that have a width and a length.
+  long lGetAnzahlRahmenBauteile() const;
+  long lGetAnzahlEinzelBauteile() const;
+  long lGetAnzahlSprossenBauteile() const;
+  /// Position of a component in its list, by identity; -1 when it is not there.
+  long GetRahmenBauteilNr(const CMBauteil* bauteil) const;
+  long GetEinzelBauteilNr(const CMBauteil* bauteil) const;
+
+  /// Grid positions of the four placement nodes.
+  void GetPlazierungsPunkte(const CMAchsen& axes, XY& p1, XY& p2, XY& pAL, XY& pAR) const;
+  /// Larger column and larger row of the corner nodes: j, k, j, k. All four are
+  /// maxima on purpose, in spite of the name; callers are tuned to it.
+  void GetMinMaxKnotenIndizes(long indices[4]) const;
+
+  // --- glazing bars ----------------------------------------------------------
+
+  /// Appends the bars of a pattern, clipped to the inner contour, and gives
+  /// them the pattern's number. False when the pattern has no range; throws 53
+  /// with the sash's name when there is no inner contour.
+  bool ErzeugeSprossenBild(long nummer, CIniFile& pattern);
+  /// Appends a bar from p1 to p2, clipped to `contour`. Returns the new bar, or
+  /// null when nothing of it remains.
+  CMBauteil* AddSprosse(const CMBauteil& vorlage, const XY& p1, const XY& p2,
+                        const GEOM2_Polygon& contour);
+  /// Cuts every bar to the inner contour. Bars are only ever shortened.
+  void ClippSprossen();
+
+  // --- extra parts -----------------------------------------------------------
+
+  /// Attaches a copy of `part` to a straight side of the frame polygon: an outer
+  /// extra part when `aussen`, else an inner one. Returns the stored part, or
+  /// null when it cannot be attached.
+  CMBauteil* AddZusatzteil(long side, const CMBauteil& part, bool aussen = false);
+  /// Removes single part `i`; false for a bad index.
+  bool DeleteEinzelBauteil(long i);
+  /// Lays axis 0 of an extra part along its side, outside or inside everything
+  /// that its side carries. False when it has no place.
+  bool PlaziereZusatzteil(CMBauteil& part) const;
+  /// Places all outer (true) or all inner (false) extra parts. Always true;
+  /// throws when a chain names a part that does not exist.
+  bool PlaziereZusatzteile(bool aussen);
+
+  // --- fields ----------------------------------------------------------------
+
+  int lForm = eFormRechteck;         ///< shape code, one of `eFluegelFormen`
+  CMKnoten Knoten1;                  ///< two opposite corners of the placement
+  CMKnoten Knoten2;                  ///< rectangle
+  CMKnoten KnotenAL;                 ///< left and right end of a shared arch
+  CMKnoten KnotenAR;
+  CString strName;
+  GEOM2_Polygon RahmenPolygon;       ///< outer edge of the frame parts; attribute = part
+  CMBauteil RahmenVorlage;           ///< defaults of new frame parts
+  std::vector<CMBauteil> RahmenTeile;
+  std::vector<CMBauteil> EinzelTeile;  ///< mullions, transoms and extra parts
+  CMBauteil SprossenVorlage;         ///< defaults of new glazing bars
+  std::vector<CMBauteil> Sprossen;
+  double dZVersatz = 0.0;            ///< depth offset against the window
+  bool bMitRahmen = true;            ///< has a frame of its own
+  int lOeffSeite = 0;                ///< index of the opening side
+  int lGangart = 0;                  ///< index of the opening kind
+  int lAnschlag = 0;                 ///< index of the hinge side
+  CMFuellung Fuellung;
+  std::vector<CMBeschlag> Beschlaege;
+  bool bZuerstAufgehend = false;     ///< this leaf of a pair opens first
+  double dBreite = 0.0;              ///< placement width of the last outline
+  double dHoehe = 0.0;               ///< placement height of the last outline
+  FormBeiwert FormBeiwertX[4];       ///< rectangles: along the horizontal edge
+  FormBeiwert FormBeiwertY[4];       ///< rectangles: along the vertical edge
+  double dStich = 0.0;               ///< arches: rise at the top
+  double dStichUnten = 0.0;          ///< arches: rise at the bottom
+  bool bKorbbogen = false;           ///< arches: half ellipse instead of a circle
+  bool bGespiegelt = false;          ///< half arches: crown on the left
+  int lTyp2 = 0;                     ///< second number of the file's "Typ"
+
+ private:
+  bool ZusatzteilAnschliessen(CMBauteil& part, bool aussen);
+  CMBauteil* LetztesGliedDerSeite(long side, long& glied);
+};
