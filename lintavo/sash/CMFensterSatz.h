@@ -243,6 +243,10 @@ class LINTAVO_API CMFensterSatz {
   int lTyp2 = 0;                     ///< second number of the file's "Typ"
 
  private:
+  void BauteileDenSeitenZuordnen();
+  template <class Gilt>
+  bool AussenPolygon(Gilt gilt, GEOM2_Polygon& out) const;
+  bool InnenPolygon(bool mitZusatzteilen, const GEOM2_Polygon& polygon, GEOM2_Polygon& out) const;
   bool ZusatzteilAnschliessen(CMBauteil& part, bool aussen);
   CMBauteil* LetztesGliedDerSeite(long side, long& glied);
 };
