@@ -1,0 +1,188 @@
+// Dropping vanished sides: a linked ring (or row) of sides and a list of those that
+// may have been turned round since they were last looked at.
+#include "lintavo/geom/Schnittkette_intern.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "lintavo/geom/Toleranzen.h"
+#include "lintavo/geom/Vektor_intern.h"
+
+namespace lintavo {
+namespace {
+
+/// Turn from one direction to the next, in radians, -pi to pi.
+double Drehung(const XY& von, const XY& nach) {
+  return std::atan2(Kreuzprodukt(von, nach), Skalarprodukt(von, nach));
+}
+
+class Kette {
+ public:
+  Kette(const std::vector<Kettenseite>& seiten, bool geschlossen)
+      : seiten_(seiten), geschlossen_(geschlossen), glieder_(seiten.size()) {
+    const std::size_t n = seiten.size();
+    for (std::size_t i = 0; i < n; ++i) {
+      glieder_[i].davor = i == 0 ? n - 1 : i - 1;
+      glieder_[i].danach = i + 1 == n ? 0 : i + 1;
+    }
+    anzahl_ = n;
+  }
+
+  /// The corner in which side i starts.
+  XY& Ecke(std::size_t i) { return glieder_[i].ecke; }
+  /// The turn at that corner.
+  double& Wendung(std::size_t i) { return glieder_[i].wendung; }
+  std::size_t Davor(std::size_t i) const { return glieder_[i].davor; }
+  std::size_t Danach(std::size_t i) const { return glieder_[i].danach; }
+  bool IstDa(std::size_t i) const { return glieder_[i].da; }
+  std::size_t Anzahl() const { return anzahl_; }
+
+  bool IstGedreht(std::size_t i) const {
+    const XY weg = Differenz(glieder_[glieder_[i].danach].ecke, glieder_[i].ecke);
+    return Skalarprodukt(weg, seiten_[i].richtung) < 0.0;
+  }
+
+  /// Joins side i's neighbours without it; false, nothing changed, for parallel ones.
+  bool Loeschen(std::size_t i) {
+    const std::size_t p = Davor(i);
+    const std::size_t q = Danach(i);
+    XY ecke;
+    if (!GeradenSchneiden(seiten_[p].hinten, seiten_[q].vorn, ecke)) return false;
+    glieder_[q].ecke = ecke;
+    glieder_[q].wendung += glieder_[i].wendung;
+    Aushaengen(i);
+    return true;
+  }
+
+  /// Takes side i out of the row without touching any corner.
+  void Aushaengen(std::size_t i) {
+    glieder_[Davor(i)].danach = Danach(i);
+    glieder_[Danach(i)].davor = Davor(i);
+    glieder_[i].da = false;
+    --anzahl_;
+  }
+
+  std::vector<Kettenecke> Ecken() const {
+    std::vector<Kettenecke> ecken;
+    ecken.reserve(anzahl_);
+    for (std::size_t i = geschlossen_ ? 0 : 1; i < glieder_.size(); ++i) {
+      if (glieder_[i].da) ecken.push_back({glieder_[i].ecke, i});
+    }
+    return ecken;
+  }
+
+ private:
+  struct Glied {
+    std::size_t davor = 0;
+    std::size_t danach = 0;
+    XY ecke;
+    double wendung = 0.0;
+    bool da = true;
+  };
+
+  const std::vector<Kettenseite>& seiten_;
+  bool geschlossen_;
+  std::vector<Glied> glieder_;
+  std::size_t anzahl_ = 0;
+};
+
+enum class Ausgang { kGeloescht, kBleibt, kLeer };
+
+/// Judges a turned side of a closed outline by the turn of its neighbours.
+Ausgang GedrehteSeite(Kette& kette, std::size_t i, int umlauf, bool konvex) {
+  if (kette.Anzahl() <= 3 && konvex) return Ausgang::kLeer;
+  const double wendung = umlauf * (kette.Wendung(i) + kette.Wendung(kette.Danach(i)));
+  if (wendung >= kPi - kHalbeDrehung) return konvex ? Ausgang::kLeer : Ausgang::kBleibt;
+  if (wendung <= -kPi + kHalbeDrehung || kette.Anzahl() <= 3) return Ausgang::kBleibt;
+  return kette.Loeschen(i) ? Ausgang::kGeloescht : Ausgang::kBleibt;
+}
+
+/// Sides whose neighbours lie on its own line are joined to the side before them, so
+/// that every remaining pair of neighbours has a corner or is truly parallel.
+void GleicheGeradenVerbinden(Kette& kette, const std::vector<Kettenseite>& seiten) {
+  XY ecke;
+  for (std::size_t i = 1; i < seiten.size(); ++i) {
+    const std::size_t p = kette.Davor(i);
+    if (GeradenSchneiden(seiten[p].hinten, seiten[i].vorn, ecke)) {
+      kette.Ecke(i) = ecke;
+    } else if (p > 0 && i + 1 < seiten.size()) {
+      kette.Aushaengen(i);
+    }
+  }
+}
+
+}  // namespace
+
+bool GeradenSchneiden(const Gerade& a, const Gerade& b, XY& p) {
+  const double nenner = Kreuzprodukt(a.richtung, b.richtung);
+  const double mass = Betrag(a.richtung) * Betrag(b.richtung);
+  if (!(std::fabs(nenner) > kParallelSinus * mass)) return false;
+  const double t = Kreuzprodukt(Differenz(b.punkt, a.punkt), b.richtung) / nenner;
+  p = Summe(a.punkt, Mal(a.richtung, t));
+  return true;
+}
+
+GeschlosseneKette VerschwundeneSeitenLoeschen(const std::vector<Kettenseite>& seiten,
+                                              const std::vector<XY>& ecken, int umlauf) {
+  GeschlosseneKette ergebnis;
+  const std::size_t n = seiten.size();
+  if (n < 3 || ecken.size() != n) return ergebnis;
+
+  Kette kette(seiten, true);
+  bool konvex = true;
+  for (std::size_t i = 0; i < n; ++i) {
+    kette.Ecke(i) = ecken[i];
+    kette.Wendung(i) = Drehung(seiten[kette.Davor(i)].richtung, seiten[i].richtung);
+    konvex = konvex && umlauf * kette.Wendung(i) >= -kHalbeDrehung;
+  }
+  std::vector<std::size_t> offen(n);
+  for (std::size_t i = 0; i < n; ++i) offen[i] = n - 1 - i;
+  while (!offen.empty()) {
+    const std::size_t i = offen.back();
+    offen.pop_back();
+    if (!kette.IstDa(i) || !kette.IstGedreht(i)) continue;
+    const std::size_t davor = kette.Davor(i);
+    const std::size_t danach = kette.Danach(i);
+    switch (GedrehteSeite(kette, i, umlauf, konvex)) {
+      case Ausgang::kLeer:
+        return ergebnis;
+      case Ausgang::kGeloescht:
+        offen.push_back(danach);
+        offen.push_back(davor);
+        break;
+      case Ausgang::kBleibt:
+        break;
+    }
+  }
+  ergebnis.ecken = kette.Ecken();
+  for (const Kettenecke& ecke : ergebnis.ecken) {
+    ergebnis.gedreht = ergebnis.gedreht || kette.IstGedreht(ecke.seite);
+  }
+  return ergebnis;
+}
+
+std::vector<Kettenecke> OffeneKetteSchneiden(const std::vector<Kettenseite>& seiten) {
+  if (seiten.size() < 2) return {};
+  Kette kette(seiten, false);
+  GleicheGeradenVerbinden(kette, seiten);
+  const std::size_t letzte = seiten.size() - 1;
+  XY ecke;
+  if (kette.Anzahl() == 2 && !GeradenSchneiden(seiten[0].hinten, seiten[letzte].vorn, ecke)) {
+    return {};
+  }
+  std::vector<std::size_t> offen;
+  for (std::size_t i = letzte; i-- > 1;) offen.push_back(i);
+  while (!offen.empty()) {
+    const std::size_t i = offen.back();
+    offen.pop_back();
+    if (!kette.IstDa(i) || !kette.IstGedreht(i)) continue;
+    const std::size_t davor = kette.Davor(i);
+    const std::size_t danach = kette.Danach(i);
+    if (!kette.Loeschen(i)) continue;
+    if (danach != letzte) offen.push_back(danach);
+    if (davor != 0) offen.push_back(davor);
+  }
+  return kette.Ecken();
+}
+
+}  // namespace lintavo

@@ -1,0 +1,56 @@
+// Every tolerance of the geometry, named for the quantity that it bounds. They
+// are absolute values in drawing units; no other file carries a bare one.
+#pragma once
+
+namespace lintavo {
+
+inline constexpr double kPi = 3.141592653589793;
+inline constexpr double kGradJeRadiant = 180.0 / kPi;
+inline constexpr double kRadiantJeGrad = kPi / 180.0;
+
+/// Lengths below this are zero; points closer than this coincide; also the
+/// tolerance of line intersections and of the kernel in general.
+inline constexpr double kNullLaenge = 1e-6;
+/// Strict inside test of a segment's midpoint.
+inline constexpr double kInnenTest = 1e-5;
+/// Shift of a single side when extra parts are placed beside it.
+inline constexpr double kSeitenVerschiebung = 1e-5;
+/// Collinearity and overlap of segments and sides. A thousand times coarser than
+/// kNullLaenge on purpose: "does one line hide another" is another question than
+/// "do two edges cut each other".
+inline constexpr double kUeberlagerung = 0.001;
+/// Gap up to which neighbouring shapes are united.
+inline constexpr double kVereinigung = 0.001;
+/// Overlap up to which two sashes still count as touching.
+inline constexpr double kUeberlappung = 1e-4;
+/// Simplifying outlines: the coarse clean-up of frame polygons.
+inline constexpr double kBereinigenGrob = 1e-4;
+/// Edges below this are dropped by the clean-up of short edges.
+inline constexpr double kKurzeKante = 0.1;
+
+/// |cos| up to which a direction counts as exactly vertical.
+inline constexpr double kSenkrecht = 1e-6;
+/// Slope that stands for a vertical line.
+inline constexpr double kSenkrechteSteigung = 1e10;
+/// Twice the signed area above which a ring is counter-clockwise.
+inline constexpr double kOrientierung = 1e-6;
+
+/// Start value of a bounding box that has not met a point yet.
+inline constexpr double kLeereBox = 1e30;
+/// Coordinates beyond this are no drawing; operations that need whole numbers or
+/// squares of coordinates answer them with "no result".
+inline constexpr double kGroessteKoordinate = 1e9;
+
+/// Sine of the angle below which two directions are parallel for the kernel's
+/// own intersections.
+inline constexpr double kParallelSinus = 1e-12;
+/// Turn, in radians, by which two sides may miss a half turn and still be opposite.
+inline constexpr double kHalbeDrehung = 1e-9;
+
+/// Largest lean of an end cut from the perpendicular, in degrees. An outline
+/// that runs almost along the axis would send the corners of the cut to infinity.
+inline constexpr double kGroessterSchnittwinkel = 85.0;
+/// Cut angles, in degrees, that differ by no more than this are the same one.
+inline constexpr double kGleicherWinkel = 1e-7;
+
+}  // namespace lintavo
