@@ -31,7 +31,7 @@ bool IsAnVerbindung(int endtyp) { return endtyp == kEndeAnGehrung || endtyp == k
 }
 
 void ThrowIfFailed(const CMZusatzMasz* masz) {
-  if (masz) Throw(StringId::MeldungZusatzmasz, masz->strName);
+  if (masz) Throw(StringId::MeldungZusatzmaszNichtAngebracht, masz->strName);
 }
 
 void CopyVertex(const GEOM2_Polygon& from, long i, GEOM2_Polygon& to) {
@@ -153,7 +153,7 @@ void CMFenster::FluegelBauen(const std::vector<GEOM2_Polygon>& grundformen) {
     if (!fluegel.BerechneRahmenPolygon(rahmenAbschnitt_, kGroessteWendung, rahmen_,
                                        grundformen[i])) {
       // The number counts from 0, as the message always has.
-      throw CMException(static_cast<int>(StringId::MeldungFluegelRahmenpolygon),
+      throw CMException(static_cast<int>(StringId::MeldungKeinFluegelpolygon),
                         static_cast<long>(i));
     }
     fluegel.ErzeugeRahmenBauteile();

@@ -422,7 +422,7 @@ bool CMFenster::ZusatzMaszeFuerBreiteUndHoeheAutomatisch(double dAbstand) {
   hoehe.SetVertikal(origin, CMKnoten(static_cast<int>(minJ), static_cast<int>(maxK)));
   for (CMZusatzMasz* masz : {&breite, &hoehe}) {
     if (!ZusatzMaszVerbinden(*masz)) {
-      throw CMException(static_cast<int>(StringId::MeldungZusatzmasz), masz->strName);
+      throw CMException(static_cast<int>(StringId::MeldungZusatzmaszNichtAngebracht), masz->strName);
     }
     AddZusatzMasz(*masz);
   }

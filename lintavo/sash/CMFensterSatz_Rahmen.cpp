@@ -15,7 +15,7 @@ namespace {
 constexpr double kVollkreis = 360.0;
 
 [[noreturn]] void ThrowRahmenpolygon() {
-  throw CMException(static_cast<int>(lintavo::StringId::MeldungRahmenpolygon));
+  throw CMException(static_cast<int>(lintavo::StringId::MeldungKeinRahmenpolygon));
 }
 
 [[noreturn]] void ThrowFlaecheNull() {
