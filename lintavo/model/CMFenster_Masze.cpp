@@ -98,35 +98,35 @@ class BenutzteAchsen {
   }
 };
 
-// Which dimension moved each axis last, during one pass over the dimensions.
+// Which dimension moved or set each axis last, during one pass over the dimensions.
 class Bewegungen {
  public:
   explicit Bewegungen(const CMAchsen& achsen)
       : positions_{Positions(achsen, false), Positions(achsen, true)},
-        mover_{std::vector<long>(positions_[0].size(), -1),
-               std::vector<long>(positions_[1].size(), -1)} {}
+        setter_{std::vector<long>(positions_[0].size(), -1),
+                std::vector<long>(positions_[1].size(), -1)} {}
 
-  /// Notes what has moved since the last call as dimension `masz`'s doing.
-  void Note(const CMAchsen& achsen, long masz) {
+  /// Notes what has moved since the last call, and the ends that dimension
+  /// number `i` has set, as its doing.
+  void Note(const CMAchsen& achsen, const CMZusatzMasz& masz, long i) {
     for (const bool bVerti : {false, true}) {
       const std::vector<double> now = Positions(achsen, bVerti);
-      for (std::size_t i = 0; i < now.size(); ++i) {
-        if (now[i] == positions_[bVerti][i]) continue;  // any movement counts
-        mover_[bVerti][i] = masz;
+      for (std::size_t n = 0; n < now.size(); ++n) {
+        if (now[n] == positions_[bVerti][n]) continue;  // any movement counts
+        setter_[bVerti][n] = i;
+        moved_ = true;
       }
       positions_[bVerti] = now;
     }
+    NoteEnd(masz, masz.kKnoten2, i);
+    if (masz.IsZentrisch()) NoteEnd(masz, masz.kKnoten3, i);
   }
 
   /// Whether any axis moved.
-  bool Any() const {
-    const auto moved = [](long masz) { return masz >= 0; };
-    return std::any_of(mover_[0].begin(), mover_[0].end(), moved) ||
-           std::any_of(mover_[1].begin(), mover_[1].end(), moved);
-  }
+  bool Any() const { return moved_; }
 
-  /// Of the axes in use, the last dimension that moved one end of an interval
-  /// which now runs backwards; -1 when all are in order.
+  /// Of the axes in use, the last dimension that moved or set one end of an
+  /// interval which now runs backwards; -1 when all are in order.
   long WrongInterval(const BenutzteAchsen& achsen) const {
     const auto& used = achsen.used;
     long wrong = -1;
@@ -136,7 +136,7 @@ class Bewegungen {
         if (!used[bVerti][i]) continue;
         if (previous < i &&
             positions_[bVerti][i] < positions_[bVerti][previous] - lintavo::kNullLaenge) {
-          wrong = std::max({wrong, mover_[bVerti][previous], mover_[bVerti][i]});
+          wrong = std::max({wrong, setter_[bVerti][previous], setter_[bVerti][i]});
         }
         previous = i;
       }
@@ -145,9 +145,20 @@ class Bewegungen {
   }
 
  private:
+  void NoteEnd(const CMZusatzMasz& masz, const CMKnoten& end, long i) {
+    std::vector<long>& setter = setter_[masz.IsHorizonal()];
+    const int axis = IndexOf(end, masz.IsHorizonal());
+    const bool set = std::fabs(masz.dLaenge) >= lintavo::kNullLaenge && end.IsAufAchse() &&
+                     masz.kKnoten1.IsAufAchse();
+    if (set && axis >= 0 && static_cast<std::size_t>(axis) < setter.size()) {
+      setter[static_cast<std::size_t>(axis)] = i;
+    }
+  }
+
   // Index 0: horizontal axes, 1: vertical axes.
   std::vector<double> positions_[2];
-  std::vector<long> mover_[2];
+  std::vector<long> setter_[2];
+  bool moved_ = false;
 };
 
 BenutzteAchsen AxesInUse(const CMFenster& fenster) {
@@ -302,7 +313,7 @@ CMZusatzMasz* CMFenster::ZusatzMaszAchsVerschiebungen() {
   for (long i = 0; i < GetAnzahlZusatzMasze(); ++i) {
     CMZusatzMasz* masz = GetZusatzMaszPtr(i);
     if (!AchsenNachMaszSetzen(*masz)) return masz;
-    bewegungen.Note(achsen_, i);
+    bewegungen.Note(achsen_, *masz, i);
   }
   const long wrong = bewegungen.WrongInterval(AxesInUse(*this));
   if (const CMZusatzMasz* masz = GetZusatzMaszPtr(wrong)) {

@@ -1,0 +1,195 @@
+// The parts of every frame tile the ring between its outer and inner contour.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "lintavo/model/CMFenster.h"
+#include "support/Beispiele.h"
+
+namespace lintavo::test {
+namespace {
+
+// Relative to the ring's area.
+constexpr double kFlaechenfehler = 1e-9;
+// Points this close to an edge are on no definite side of it.
+constexpr double kRand = 1e-3;
+
+std::vector<GEOM2_Polygon> Umrisse(const CMFensterSatz& satz) {
+  std::vector<GEOM2_Polygon> umrisse;
+  for (const CMBauteil& teil : satz.RahmenTeile) {
+    if (!teil.IsVorhanden()) continue;
+    teil.GetUmrissPunkte(umrisse.emplace_back());
+  }
+  return umrisse;
+}
+
+std::vector<GEOM2_Polygon> Segmente(const CMFensterSatz& satz) {
+  std::vector<GEOM2_Polygon> umrisse;
+  for (const CMBauteil& teil : satz.RahmenTeile) {
+    for (long i = 0; i < teil.lGetAnzAchsen(); ++i) {
+      teil.GetUmrissPunkteAchsSegment(i, umrisse.emplace_back());
+    }
+  }
+  return umrisse;
+}
+
+double Flaeche(const std::vector<GEOM2_Polygon>& polygone) {
+  double summe = 0.0;
+  for (const GEOM2_Polygon& polygon : polygone) summe += polygon.GetFlaeche();
+  return summe;
+}
+
+int WieOftInnen(const std::vector<GEOM2_Polygon>& polygone, const XY& p) {
+  int count = 0;
+  for (const GEOM2_Polygon& polygon : polygone) count += polygon.IsInside(p, false, 1e-9);
+  return count;
+}
+
+bool NaheAmRand(const std::vector<GEOM2_Polygon>& polygone, const XY& p) {
+  for (const GEOM2_Polygon& polygon : polygone) {
+    if (polygon.IsAufRand(p, kRand)) return true;
+  }
+  return false;
+}
+
+// Area and point membership: every point of the ring lies in exactly one part,
+// every other point in none.
+void ErwarteParkett(const CMFensterSatz& satz, const std::string& was) {
+  if (!satz.bMitRahmen) return;
+  GEOM2_Polygon innen;
+  ASSERT_TRUE(satz.ErzeugeRahmenInnenPolygon(false, innen)) << was;
+  const GEOM2_Polygon& aussen = satz.RahmenPolygon;
+  const double ring = aussen.GetFlaeche() - innen.GetFlaeche();
+  const std::vector<GEOM2_Polygon> teile = Umrisse(satz);
+  EXPECT_NEAR(Flaeche(teile), ring, ring * kFlaechenfehler) << was;
+  if (innen.GetAnzahl() == aussen.GetAnzahl()) {
+    EXPECT_NEAR(Flaeche(Segmente(satz)), ring, ring * kFlaechenfehler) << was << ", segments";
+  }
+
+  XY low;
+  XY high;
+  aussen.GetMinMax(low, high);
+  constexpr int kPunkteJeSeite = 60;
+  for (int i = 0; i <= kPunkteJeSeite; ++i) {
+    for (int j = 0; j <= kPunkteJeSeite; ++j) {
+      const XY p{low.x + (high.x - low.x) * (i + 0.371) / kPunkteJeSeite,
+                 low.y + (high.y - low.y) * (j + 0.613) / kPunkteJeSeite};
+      if (NaheAmRand(teile, p) || aussen.IsAufRand(p, kRand) || innen.IsAufRand(p, kRand)) continue;
+      const bool inRing = aussen.IsInside(p, false, 1e-9) && !innen.IsInside(p, false, 1e-9);
+      ASSERT_EQ(WieOftInnen(teile, p), inRing ? 1 : 0) << was << " at " << p.x << ", " << p.y;
+    }
+  }
+}
+
+void ErwarteAlleParketts(const CMFenster& fenster, const std::string& was) {
+  ErwarteParkett(*fenster.GetRahmenPtr(), was + ", frame");
+  for (long i = 0; i < fenster.GetAnzahlFluegel(); ++i) {
+    ErwarteParkett(*fenster.GetFluegelPtr(i), was + ", sash " + std::to_string(i));
+  }
+}
+
+class JedesBeispiel : public testing::TestWithParam<std::string> {};
+
+TEST_P(JedesBeispiel, FramePartsTileTheirRingAtEverySize) {
+  CMFenster fenster = Beispiel(GetParam());
+  ErwarteAlleParketts(fenster, GetParam());
+  XY size;
+  fenster.GetSize(size);
+  for (const auto& [fx, fy] : {std::pair{1.2, 1.1}, {0.93, 1.15}, {1.05, 0.95}}) {
+    if (!Einpassen(fenster, size.x * fx, size.y * fy)) continue;
+    ErwarteAlleParketts(fenster, GetParam() + " x " + std::to_string(fx));
+  }
+}
+
+TEST_P(JedesBeispiel, SashesLieInsideTheFrameOutline) {
+  const CMFenster fenster = Beispiel(GetParam());
+  const GEOM2_Polygon& umriss = fenster.GetRahmenPtr()->RahmenPolygon;
+  for (long i = 0; i < fenster.GetAnzahlFluegel(); ++i) {
+    const GEOM2_Polygon& fluegel = fenster.GetFluegelPtr(i)->RahmenPolygon;
+    for (int n = 0; n < fluegel.GetAnzahl(); ++n) {
+      XY p;
+      fluegel.GetPunkt(n, p.x, p.y);
+      EXPECT_TRUE(umriss.IsInside(p, true, 1e-6)) << GetParam() << " sash " << i << " vertex " << n;
+    }
+  }
+}
+
+std::string TestName(const testing::TestParamInfo<std::string>& info) {
+  return info.param.substr(0, info.param.find('.'));
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, JedesBeispiel, testing::ValuesIn(BeispielNamen()), TestName);
+
+// A frame whose parts have different widths at a corner: the mitre runs from
+// corner to corner.
+TEST(Rahmenteile, UnequalWidthsMeetFromCornerToCorner) {
+  CMFenster fenster = Raster(1, 1, 100.0, 80.0);
+  ASSERT_TRUE(fenster.Berechne(false));
+  CMFensterSatz& rahmen = *fenster.GetRahmenPtr();
+  ASSERT_EQ(rahmen.RahmenTeile.size(), 4u);
+  rahmen.RahmenTeile[0].dBreite = 12.0;  // bottom
+  rahmen.RahmenTeile[1].dBreite = 4.0;   // right
+  ASSERT_TRUE(fenster.Berechne(false));
+  ErwarteAlleParketts(fenster, "unequal widths");
+
+  // Bottom right: the inner corner lies 4 in and 12 up, so the bottom part's end
+  // leans by -atan (4 / 12), the right part's start by atan (12 / 4).
+  const double grad = 180.0 / 3.141592653589793;
+  EXPECT_NEAR(rahmen.RahmenTeile[0].Achse(0).dWinkelEnde, -std::atan(4.0 / 12.0) * grad, 1e-9);
+  EXPECT_NEAR(rahmen.RahmenTeile[1].Achse(0).dWinkelAnfang, std::atan(12.0 / 4.0) * grad, 1e-9);
+}
+
+// A chamfer of 2 by 2 in a frame 10 wide vanishes inside: its part is a
+// triangle that ends where its neighbours meet.
+TEST(Rahmenteile, AVanishedChamferReachesTheCommonInnerCorner) {
+  CMFenster fenster = Raster(1, 1, 100.0, 80.0);
+  fenster.GetRahmenPtr()->SetRahmenDefaults(10.0, 6.8, 0.0, 1, 2);
+  CMFensterSatz& fluegel = *fenster.GetFluegelPtr(0L);
+  fluegel.SetFormBeiwertX(1, 2.0, true);
+  fluegel.SetFormBeiwertY(1, 2.0, true);
+  ASSERT_TRUE(fenster.Berechne(false));
+  const CMFensterSatz& rahmen = *fenster.GetRahmenPtr();
+  ASSERT_EQ(rahmen.RahmenPolygon.GetAnzahl(), 5);
+  GEOM2_Polygon innen;
+  ASSERT_TRUE(rahmen.ErzeugeRahmenInnenPolygon(innen));
+  EXPECT_EQ(innen.GetAnzahl(), 4);
+  ErwarteAlleParketts(fenster, "vanished chamfer");
+
+  // The chamfer lies on the line x + y = 178; the inner corner is (90, 70).
+  const CMBauteil& fase = rahmen.RahmenTeile[2];
+  EXPECT_NEAR(fase.dBreite + fase.dUeberBreite, 18.0 / std::sqrt(2.0), 1e-9);
+  GEOM2_Polygon umriss;
+  ASSERT_TRUE(fase.GetUmrissPunkteAchsSegment(0, umriss));
+  EXPECT_NEAR(umriss.GetEckpunkt(2).x, 90.0, 1e-9);
+  EXPECT_NEAR(umriss.GetEckpunkt(2).y, 70.0, 1e-9);
+}
+
+TEST(Rahmenteile, NumberingMergesBentRunsButNeverVerticalSides) {
+  GEOM2_Polygon polygon;
+  polygon.AddPunkt(0.0, 0.0);
+  polygon.AddPunkt(100.0, 0.0);
+  polygon.AddPunkt(100.0, 50.0);   // vertical, shorter than the limit
+  polygon.AddPunkt(95.0, 80.0);    // a run that turns by less than 25 degrees
+  polygon.AddPunkt(84.0, 100.0);
+  polygon.AddPunkt(0.0, 100.0);
+  CMFensterSatz satz;
+  EXPECT_EQ(satz.RahmenSegmenteZusammenfassen(60.0, 25.0, polygon), 5);
+  const int expected[] = {0, 1, 2, 2, 3, 4};
+  for (int i = 0; i < 6; ++i) EXPECT_EQ(polygon.GetAttribut(i), expected[i]) << i;
+  GEOM2_Polygon empty;
+  EXPECT_EQ(satz.RahmenSegmenteZusammenfassen(60.0, 25.0, empty), -1);
+}
+
+TEST(Rahmenteile, IndexPastTheEndGivesTheTemplate) {
+  CMFensterSatz satz;
+  EXPECT_EQ(satz.GetRahmenBauteilPtr(0), &satz.RahmenVorlage);
+  EXPECT_EQ(satz.GetRahmenBauteilPtr(-1), nullptr);
+  satz.bMitRahmen = false;
+  EXPECT_EQ(satz.GetRahmenBauteilPtr(0), nullptr);
+  satz.RahmenTeile.resize(3);
+  EXPECT_TRUE(satz.ErzeugeRahmenBauteile());
+  EXPECT_TRUE(satz.RahmenTeile.empty());
+}
+
+}  // namespace
+}  // namespace lintavo::test
