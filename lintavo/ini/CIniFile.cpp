@@ -1,0 +1,235 @@
+// The document: reading and writing files, finding sections and entries. Its
+// typed values are in CIniFile_Werte.cpp.
+#include "lintavo/ini/CIniFile.h"
+
+#include <cstdio>
+#include <cstring>
+
+#include "lintavo/platform/CaseFold_intern.h"
+#include "lintavo/platform/Files_intern.h"
+#include "lintavo/platform/Whitespace_intern.h"
+
+namespace {
+
+// A line buffer of 256 bytes with its terminating zero. Longer lines arrive in
+// pieces, and each is a line of its own: files rely on that limit.
+constexpr std::size_t kPieceLength = 255;
+
+constexpr std::size_t kBlockLength = 16384;
+
+bool IsHeader(std::string_view line) {
+  return !line.empty() && line.front() == '[';
+}
+
+// "[" + name + "]" without forming it.
+bool IsHeaderOf(std::string_view line, std::string_view name) {
+  return line.size() == name.size() + 2 && line.front() == '[' && line.back() == ']' &&
+         lintavo::EqualNoCase(line.substr(1, name.size()), name);
+}
+
+// key + "=" at the beginning of the line, without forming it.
+bool IsEntryOf(std::string_view line, std::string_view key) {
+  return line.size() > key.size() && line[key.size()] == '=' &&
+         lintavo::StartsWithNoCase(line, key);
+}
+
+// Reads a file in blocks and hands it out in pieces: up to and with a line
+// feed, at most kPieceLength bytes, the rest at the end of the file.
+class PieceReader {
+ public:
+  explicit PieceReader(std::FILE* file) : file_(file) {
+    // Blocks are read straight into the block below.
+    std::setvbuf(file, nullptr, _IONBF, 0);
+  }
+
+  // The next piece, valid until the next call; empty at the end of the file.
+  std::string_view Next() {
+    if (end_ - begin_ < kPieceLength) Refill();
+    const char* start = block_ + begin_;
+    const std::size_t rest = end_ - begin_;
+    const std::size_t most = rest < kPieceLength ? rest : kPieceLength;
+    const void* lineEnd = most > 0 ? std::memchr(start, '\n', most) : nullptr;
+    const std::size_t length =
+        lineEnd != nullptr ? static_cast<std::size_t>(static_cast<const char*>(lineEnd) - start) + 1
+                           : most;
+    begin_ += length;
+    return {start, length};
+  }
+
+ private:
+  // Moves what is left to the front and fills up behind it.
+  void Refill() {
+    if (atEnd_) return;
+    std::memmove(block_, block_ + begin_, end_ - begin_);
+    end_ -= begin_;
+    begin_ = 0;
+    const std::size_t wanted = kBlockLength - end_;
+    const std::size_t read = std::fread(block_ + end_, 1, wanted, file_);
+    end_ += read;
+    atEnd_ = read < wanted;
+  }
+
+  std::FILE* file_;
+  std::size_t begin_ = 0;
+  std::size_t end_ = 0;
+  bool atEnd_ = false;
+  char block_[kBlockLength];
+};
+
+}  // namespace
+
+CIniFile::~CIniFile() = default;
+
+int CIniFile::Read(const CString& path) {
+  const lintavo::FilePtr file = lintavo::OpenFile(path, "r");
+  if (file == nullptr) return 0;
+  PieceReader reader(file.get());
+  for (std::string_view piece = reader.Next(); !piece.empty(); piece = reader.Next()) {
+    AppendPiece(piece);
+  }
+  return 1;
+}
+
+void CIniFile::AppendPiece(std::string_view piece) {
+  // A piece is a C text: it ends at a zero byte, whatever follows.
+  piece = piece.substr(0, piece.find('\0'));
+  const std::string_view line = lintavo::TrimmedRight(lintavo::TrimmedLeft(piece));
+  if (line.empty()) return;
+  if (IsHeader(line)) ++m_CntSections;
+  m_Lines.emplace_back(line);
+}
+
+int CIniFile::Write(const CString& path) const {
+  const lintavo::FilePtr file = lintavo::OpenFile(path, "w");
+  if (file == nullptr) return 0;
+  bool first = true;
+  for (const CString& line : m_Lines) {
+    if (!first && IsHeader(line.View())) std::fputc('\n', file.get());
+    std::fputs(line, file.get());
+    std::fputc('\n', file.get());
+    first = false;
+  }
+  return 1;
+}
+
+void CIniFile::WriteTrace() const {
+#ifndef NDEBUG
+  std::fputs("--- CIniFile: 'Testausgabe' ----\n", stderr);
+  for (const CString& line : m_Lines) {
+    std::fputs(line, stderr);
+    std::fputc('\n', stderr);
+  }
+#endif
+}
+
+void CIniFile::AddLine(CString line) {
+  m_Lines.push_back(std::move(line));
+}
+
+long CIniFile::FindHeader(std::string_view name, long from, long to) const {
+  for (long i = from; i < to; ++i) {
+    if (IsHeaderOf(Line(i), name)) return i;
+  }
+  return -1;
+}
+
+long CIniFile::FindSection(const CString& name) {
+  if (lintavo::EqualNoCase(name.View(), m_LastSectionName.View())) return m_LastSectionLine;
+  // Forward from the end of the last section, so that sections read in file
+  // order are met at once; what lies before it only afterwards.
+  const long middle = m_SectionEndLine > 1 ? m_SectionEndLine : 0;
+  long line = FindHeader(name.View(), middle, LineCount());
+  if (line < 0) line = FindHeader(name.View(), 0, middle);
+  m_SectionEndLine = -1;
+  m_LastEntryLine = -1;
+  if (line >= 0) {
+    m_LastSectionName = name;
+    m_LastSectionLine = static_cast<int>(line);
+  }
+  return line;
+}
+
+// Sets the cached section end to the first header at or behind from, or to the
+// last line when there is none; tells which.
+bool CIniFile::FindNextHeader(long from) {
+  for (long i = from; i < LineCount(); ++i) {
+    if (IsHeader(Line(i))) {
+      m_SectionEndLine = static_cast<int>(i);
+      return true;
+    }
+  }
+  m_SectionEndLine = static_cast<int>(LineCount() - 1);
+  return false;
+}
+
+// End of a section for reading: one past the header that ends it. The header
+// is inside the range, which does no harm: it is never an entry.
+long CIniFile::FindSection(long from) {
+  if (m_SectionEndLine >= 0) return m_SectionEndLine + 1;
+  return FindNextHeader(from) ? m_SectionEndLine + 1 : LineCount();
+}
+
+// End of a section for writing. In the last section the first call gives the
+// number of lines and a repeated one, from the cache, one less: meant so.
+// Evened out, the entries that writers add twice would change.
+long CIniFile::FindEndOfSection(long from) {
+  if (m_SectionEndLine >= 0) return m_SectionEndLine;
+  return FindNextHeader(from) ? m_SectionEndLine : LineCount();
+}
+
+long CIniFile::FindEntryPos(std::string_view key, long from, long to) const {
+  for (long i = from; i < to; ++i) {
+    if (IsEntryOf(Line(i), key)) return i;
+  }
+  return -1;
+}
+
+// The value of a key between two lines, leading blanks included; empty when
+// there is none. The line behind the entry last found is tried first, so of
+// two entries with one key the later one may answer.
+std::string_view CIniFile::FindEntry(std::string_view key, long from, long to) {
+  long line = m_LastEntryLine + 1;
+  if (m_LastEntryLine < 0 || line >= to || !IsEntryOf(Line(line), key)) {
+    line = FindEntryPos(key, from, to);
+  }
+  if (line < 0) return {};
+  m_LastEntryLine = static_cast<int>(line);
+  return Line(line).substr(key.size() + 1);
+}
+
+int CIniFile::GetString(const CString& section, const CString& key, CString& value) {
+  // A missing section gives line 0: the lookup then runs over the lines before
+  // the first header. Meant so; FindNumbers differs in this.
+  const long start = FindSection(section) + 1;
+  const long end = FindSection(start);
+  const std::string_view text = lintavo::TrimmedRight(FindEntry(key.View(), start, end));
+  if (text.empty()) return 0;
+  value = text;
+  return 1;
+}
+
+int CIniFile::SetString(CString& section, const CString& key, const CString& value) {
+  const long start = FindSection(section) + 1;
+  const CString line = key + "=" + value;
+  long place = 0;
+  if (start < 1) {
+    section.TrimLeft();
+    section.TrimRight();
+    m_Lines.push_back("[" + section + "]");
+    m_SectionEndLine = -1;
+    // The search stops at the new header itself.
+    place = FindEndOfSection(LineCount() - 1) + 1;
+  } else {
+    const long known = FindEntryPos(key.View(), start, FindEndOfSection(start));
+    if (known >= 0) {
+      m_Lines[static_cast<std::size_t>(known)] = line;
+      return 1;
+    }
+    m_SectionEndLine = -1;
+    place = FindEndOfSection(start);
+  }
+  // The section end found stays cached although the header there moves down by
+  // one: entries added later are placed by a new search anyway.
+  m_Lines.insert(m_Lines.begin() + place, line);
+  return 1;
+}

@@ -1,0 +1,125 @@
+// Opening, reading and listing.
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+#include "lintavo/platform/Files_intern.h"
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
+namespace {
+
+namespace fs = std::filesystem;
+
+#ifdef _WIN32
+
+constexpr char kSeparator = '\\';
+
+bool IsSeparator(char c) {
+  return c == '\\' || c == '/';
+}
+
+// The system itself takes both separators and opens no folder as a file.
+CString PathToRead(const CString& path) {
+  return path;
+}
+CString PathToWrite(const CString& path) {
+  return path;
+}
+bool IsFolder(std::FILE*) {
+  return false;
+}
+
+#else
+
+constexpr char kSeparator = '/';
+
+// A backslash at the end of a folder was meant as one; the path is opened with
+// the same understanding.
+bool IsSeparator(char c) {
+  return c == '/' || c == '\\';
+}
+
+CString WithSlashes(const CString& path) {
+  std::string text(path.View());
+  std::replace(text.begin(), text.end(), '\\', '/');
+  return text;
+}
+
+bool HasBackslash(const CString& path) {
+  return path.Find('\\') >= 0;
+}
+
+bool Exists(const char* path) {
+  struct stat status {};
+  return ::stat(path, &status) == 0;
+}
+
+CString PathToRead(const CString& path) {
+  if (!HasBackslash(path) || Exists(path)) return path;
+  CString slashed = WithSlashes(path);
+  return Exists(slashed) ? slashed : path;
+}
+
+CString PathToWrite(const CString& path) {
+  if (!HasBackslash(path) || Exists(path)) return path;
+  CString slashed = WithSlashes(path);
+  const int end = slashed.ReverseFind('/');
+  return Exists(slashed.Left(end + 1)) ? slashed : path;
+}
+
+bool IsFolder(std::FILE* file) {
+  struct stat status {};
+  return ::fstat(::fileno(file), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+#endif
+
+}  // namespace
+
+namespace lintavo {
+
+FilePtr OpenFile(const CString& path, const char* mode) {
+  const bool reading = mode[0] == 'r';
+  const CString found = reading ? PathToRead(path) : PathToWrite(path);
+  FilePtr file(std::fopen(found, mode));
+  // Elsewhere than on Windows a folder opens for reading like an empty file.
+  if (file != nullptr && IsFolder(file.get())) file.reset();
+  return file;
+}
+
+bool ReadFileStart(const CString& path, std::size_t limit, std::string& bytes) {
+  const FilePtr file = OpenFile(path, "rb");
+  if (file == nullptr) return false;
+  std::string content(limit, '\0');
+  content.resize(std::fread(content.data(), 1, limit, file.get()));
+  bytes = std::move(content);
+  return true;
+}
+
+CString ExistingPath(const CString& path) {
+  return PathToRead(path);
+}
+
+std::vector<FolderEntry> ListFolder(const CString& folder) {
+  std::vector<FolderEntry> entries;
+  std::error_code error;
+  fs::directory_iterator place(fs::path(ExistingPath(folder).View()), error);
+  for (const fs::directory_iterator end; !error && place != end; place.increment(error)) {
+    std::error_code unknown;
+    const bool isFolder = place->symlink_status(unknown).type() == fs::file_type::directory;
+    if (!isFolder && !place->is_regular_file(unknown)) continue;
+    entries.push_back({place->path().filename().string(), isFolder});
+  }
+  return entries;
+}
+
+CString JoinPath(const CString& folder, const CString& name) {
+  if (folder.IsEmpty()) return name;
+  if (IsSeparator(folder[folder.GetLength() - 1])) return folder + name;
+  return folder + kSeparator + name;
+}
+
+}  // namespace lintavo

@@ -1,0 +1,54 @@
+// The one layer through which the library reaches files and folders. On POSIX
+// a path may use either separator: where the path as given does not exist, its
+// backslashes are tried as slashes.
+#pragma once
+
+#include <cstddef>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "lintavo/platform/CString.h"
+
+namespace lintavo {
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+/// An open file that closes itself. Errors of closing are not reported.
+using FilePtr = std::unique_ptr<std::FILE, CloseFile>;
+
+/// Opens a file with a mode of fopen; null when that fails. For reading, a
+/// folder counts as not openable, and the path with slashes is tried when
+/// there is nothing under the path as given. For writing, the path with
+/// slashes is taken when no file of the given name exists and the folder that
+/// the slashes name does.
+FilePtr OpenFile(const CString& path, const char* mode);
+
+/// Replaces bytes by the first limit bytes of a file; false, and bytes are
+/// left alone, when it cannot be opened. A shorter file gives fewer bytes.
+bool ReadFileStart(const CString& path, std::size_t limit, std::string& bytes);
+
+/// The path itself where it exists, else the one with slashes where that
+/// exists, else the path itself.
+CString ExistingPath(const CString& path);
+
+struct FolderEntry {
+  CString strName;
+  bool bIsFolder = false;
+};
+
+/// The files and folders in a folder, in the order in which the file system
+/// delivers them, without "." and "..". A link to a file counts as a file; a
+/// link to a folder is left out, so that no walk through the entries runs in
+/// circles, and so is everything that is neither file nor folder. Empty when
+/// the folder cannot be read.
+std::vector<FolderEntry> ListFolder(const CString& folder);
+
+/// folder and name with one separator of the platform between them; the name
+/// alone when the folder is empty.
+CString JoinPath(const CString& folder, const CString& name);
+
+}  // namespace lintavo
