@@ -9,7 +9,10 @@
 #include "lintavo/api/CFeApiWandOeffnungsParameter.h"
 #include "lintavo/platform/Export.h"
 
+class CMBauteil;
 class CMFenster;
+class CMFensterSatz;
+class CMZusatzMasz;
 
 /// Kinds of a sash's filling.
 enum eFeApiFuellArten {
@@ -178,5 +181,13 @@ class LINTAVO_API CFeApi {
   int SetBreiteHoehe(const CFeApiWandOeffnungsParameter& param, double width, double height);
 
  private:
+  // The addressed object, or null for a bad index.
+  const CMFensterSatz* Rahmen() const;
+  const CMFensterSatz* Fluegel(long i) const;
+  CMFensterSatz* Fluegel(long i);
+  CMZusatzMasz* ZusatzMasz(long i) const;
+  int SetzeRahmen(CMFensterSatz* satz, double CMBauteil::*masz, double value);
+  int SetzeSprosse(long i, long j, double CMBauteil::*masz, double value);
+
   CMFenster* pFenster_ = nullptr;
 };

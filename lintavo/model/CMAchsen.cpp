@@ -56,7 +56,7 @@ bool IsFixed(const Achsen& achsen, int i) {
   return IsInList(achsen, i) && achsen[static_cast<std::size_t>(i)].IsFest();
 }
 
-void ReadAxes(CIniFile& document, const char* prefix, Achsen& achsen) {
+void ReadAxes(CIniFile& document, lintavo::StringId prefix, Achsen& achsen) {
   achsen.emplace_back(0.0, false);
   for (long i = 1; i <= kMaxGelesen; ++i) {
     double d = 0.0;
@@ -68,7 +68,7 @@ void ReadAxes(CIniFile& document, const char* prefix, Achsen& achsen) {
   }
 }
 
-void SaveAxes(CIniFile& document, const char* prefix, const Achsen& achsen) {
+void SaveAxes(CIniFile& document, lintavo::StringId prefix, const Achsen& achsen) {
   CString section = lintavo::Text(lintavo::StringId::Achsen);
   for (int i = 1; i < static_cast<int>(achsen.size()); ++i) {
     document.SetDouble(section, lintavo::NumberedName(prefix, i), DistanceToPrevious(achsen, i));
@@ -143,13 +143,13 @@ bool CMAchsen::GetKnoten(const XY& p, CMKnoten& knoten, double dTol) const {
 }
 
 bool CMAchsen::ReadFromIniFile(CIniFile& document) {
-  ReadAxes(document, lintavo::Text(lintavo::StringId::PraefixY), horizontal_);
-  ReadAxes(document, lintavo::Text(lintavo::StringId::PraefixX), vertikal_);
+  ReadAxes(document, lintavo::StringId::PraefixY, horizontal_);
+  ReadAxes(document, lintavo::StringId::PraefixX, vertikal_);
   return true;
 }
 
 bool CMAchsen::SaveToIniFile(CIniFile& document) const {
-  SaveAxes(document, lintavo::Text(lintavo::StringId::PraefixY), horizontal_);
-  SaveAxes(document, lintavo::Text(lintavo::StringId::PraefixX), vertikal_);
+  SaveAxes(document, lintavo::StringId::PraefixY, horizontal_);
+  SaveAxes(document, lintavo::StringId::PraefixX, vertikal_);
   return true;
 }

@@ -222,6 +222,18 @@ class LINTAVO_API CMFenster {
   };
 
   bool SaveParameterBlankoFormularToBuffer(CIniFile& document) const;
+  void FluegelFormBeiwerteAnpassen(bool bVerti, long i1, long i2, const CMAchsen& before);
+  bool AchsenNachMaszSetzen(const CMZusatzMasz& masz);
+  void EckpunktKnotenNachfuehren(const CMAchsen& before);
+  bool EckenNachMaszSetzen(const CMZusatzMasz& masz, const GEOM2_Polygon& before,
+                           std::vector<GEOM2_Polygon>& grundformen);
+  void Rechne(bool bPfostenRiegelAutomatisch);
+  void RahmenUmrissBilden(const std::vector<GEOM2_Polygon>& grundformen);
+  void RahmenBauen(bool bPfostenRiegelAutomatisch, const std::vector<GEOM2_Polygon>& grundformen);
+  void FluegelBauen(const std::vector<GEOM2_Polygon>& grundformen);
+  void AussenTeilAnschliessen(CMBauteil& teil, const GEOM2_Polygon& aussen) const;
+  bool VerbindungBilden(const CMBauteil& teil, const GEOM2_Polygon& aussen,
+                        GEOM2_Polygon& verbindung) const;
 
   bool neu_ = true;
   CString dateiName_;

@@ -164,12 +164,12 @@ bool CMFenster::ReadFromBuffer(CIniFile& document) {
   if (!achsen_.ReadFromIniFile(document)) return false;
   for (long i = 1; i <= kMaxGelesen; ++i) {
     CMZusatzMasz masz;
-    if (!ReadZusatzMasz(document, NumberedName(Text(StringId::MaszSektion), i), masz)) break;
+    if (!ReadZusatzMasz(document, NumberedName(StringId::MaszSektion, i), masz)) break;
     AddZusatzMasz(masz);
   }
   if (!rahmen_.ReadFromIniFile(Text(StringId::Rahmen), document)) return false;
   for (long i = 1; i <= kMaxGelesen; ++i) {
-    const CString section = NumberedName(Text(StringId::Fluegel), i);
+    const CString section = NumberedName(StringId::Fluegel, i);
     double typ[2];
     if (!document.GetDoubles(section, Text(StringId::Typ), 2, typ)) break;
     std::unique_ptr<CMFensterSatz> fluegel(NewFluegelPtr(lintavo::TruncateToLong(typ[0])));
@@ -194,13 +194,13 @@ bool CMFenster::SaveToBuffer(CIniFile& document) const {
   achsen_.SaveToIniFile(document);
   long number = 0;
   for (const CMZusatzMasz& masz : zusatzMasze_) {
-    CString section = NumberedName(Text(StringId::MaszSektion), ++number);
+    CString section = NumberedName(StringId::MaszSektion, ++number);
     SaveZusatzMasz(document, section, masz);
   }
   rahmen_.SaveToIniFile(Text(StringId::Rahmen), document);
   number = 0;
   for (const auto& fluegel : fluegel_) {
-    CString section = NumberedName(Text(StringId::Fluegel), ++number);
+    CString section = NumberedName(StringId::Fluegel, ++number);
     const double typ[2] = {static_cast<double>(fluegel->lForm),
                            static_cast<double>(fluegel->lTyp2)};
     document.SetDoubles(section, Text(StringId::Typ), 2, typ);
@@ -229,7 +229,7 @@ bool CMFenster::SaveParameterBlankoFormularToBuffer(CIniFile& document) const {
   CString general = Text(StringId::Allgemeines);
   document.SetString(general, Text(StringId::Typ), typName_);
   for (long i = 1; i <= kFormularTexte; ++i) {
-    document.SetString(general, NumberedName(Text(StringId::Text), i), CString());
+    document.SetString(general, NumberedName(StringId::Text, i), CString());
   }
 
   CString lengths = Text(StringId::Masze);
@@ -244,12 +244,12 @@ bool CMFenster::SaveParameterBlankoFormularToBuffer(CIniFile& document) const {
   rahmen_.SaveBauteileToParameterFormular(0, Text(StringId::Rahmen), document);
   long number = 0;
   for (const auto& fluegel : fluegel_) {
-    CString section = NumberedName(Text(StringId::Fluegel), ++number);
+    CString section = NumberedName(StringId::Fluegel, ++number);
     fluegel->SaveGangartToIniFile(section, document);
     fluegel->SaveFuellungToIniFile(section, document);
     document.SetBool(section, Text(StringId::ZuerstAufgehend), fluegel->bZuerstAufgehend);
     fluegel->SaveBauteileToParameterFormular(1, section, document);
-    document.SetString(section, NumberedName(Text(StringId::Sprossenbild), 1),
+    document.SetString(section, NumberedName(StringId::Sprossenbild, 1),
                        kMusterSprossenbild);
   }
   return true;

@@ -15,7 +15,7 @@ namespace {
 constexpr double kVollkreis = 360.0;
 
 [[noreturn]] void ThrowRahmenpolygon() {
-  throw CMException(static_cast<int>(lintavo::StringId::MeldungRahmenpolygon));
+  throw CMException(static_cast<int>(lintavo::StringId::MeldungKeinRahmenpolygon));
 }
 
 [[noreturn]] void ThrowFlaecheNull() {
@@ -218,7 +218,7 @@ bool CMFensterSatz::BerechneRahmenPolygon(double maxLength, double maxAngle,
   RahmenPolygon.Clear();
   if (!sides.ParallelPolygon(distances.data(), RahmenPolygon, true)) return false;
   if (RahmenSegmenteZusammenfassen(maxLength, maxAngle, RahmenPolygon) < 0) return false;
-  RahmenPolygon.Bereinigen(lintavo::kRahmenBereinigung);
+  RahmenPolygon.Bereinigen(lintavo::kBereinigenGrob);
   return true;
 }
 

@@ -1,0 +1,122 @@
+// The façade's life cycle, errors, reading and writing.
+#include "lintavo/api/CFeApi.h"
+
+#include <cstring>
+#include <memory>
+#include <new>
+#include <string>
+
+#include "lintavo/api/Komprimiert_intern.h"
+#include "lintavo/api/Schutz_intern.h"
+#include "lintavo/ini/CIniFile.h"
+#include "lintavo/model/CMFenster.h"
+
+using lintavo::Geschuetzt;
+using lintavo::KopiereText;
+
+namespace {
+
+constexpr char kPufferTrenner = '#';
+constexpr int kWagenruecklauf = '\r';
+
+CString PathOf(const char* path) { return CString(path); }
+
+}  // namespace
+
+CFeApi::CFeApi() : pFenster_(Geschuetzt<CMFenster*>(nullptr, [] { return new CMFenster; })) {}
+
+CFeApi::CFeApi(const CFeApi& other) : CFeApi() { *this = other; }
+
+CFeApi& CFeApi::operator=(const CFeApi& other) {
+  if (pFenster_ && other.pFenster_) Geschuetzt([&] { *pFenster_ = *other.pFenster_; });
+  return *this;
+}
+
+CFeApi::~CFeApi() {
+  DeleteFenster();
+  delete pFenster_;
+  pFenster_ = nullptr;
+}
+
+void CFeApi::DeleteFenster() {
+  if (pFenster_) Geschuetzt([&] { pFenster_->Delete(); });
+}
+
+long CFeApi::GetErrorID() const { return pFenster_ ? pFenster_->GetFehler() : -1; }
+
+long CFeApi::GetErrorMsg(char (&text)[256]) const {
+  std::memset(text, 0, sizeof text);
+  if (!pFenster_) return 0;
+  return Geschuetzt(0L, [&] {
+    CString message;
+    pFenster_->GetFehler(message);
+    return KopiereText(message, text);
+  });
+}
+
+int CFeApi::ReadFromFile(const char* path) {
+  if (!pFenster_) return 0;
+  return Geschuetzt(0, [&] {
+    return pFenster_->ReadFromFile(PathOf(path)) && pFenster_->Berechne(false) ? 1 : 0;
+  });
+}
+
+int CFeApi::ReadFromCompressedFile(const char* path) {
+  if (!pFenster_) return 0;
+  return Geschuetzt(0, [&] {
+    lintavo::KomprimierterText text;
+    if (!lintavo::LiesKomprimiert(PathOf(path), text)) return 0;
+    return ReadFromBuffer(text.lLaenge, text.Bytes, kWagenruecklauf);
+  });
+}
+
+int CFeApi::ReadFromBuffer(long length, const char* buffer) {
+  return ReadFromBuffer(length, buffer, kPufferTrenner);
+}
+
+int CFeApi::ReadFromBuffer(long length, const char* buffer, int separator) {
+  if (!pFenster_) return 0;
+  return Geschuetzt(0, [&] {
+    CIniFile document;
+    lintavo::JedeZeile(length, buffer, separator, [&](std::string_view line) {
+      document.AddLine(line);
+      return true;
+    });
+    pFenster_->Delete();
+    if (!pFenster_->ReadFromBuffer(document)) return 0;
+    return pFenster_->Berechne(false) ? 1 : 0;
+  });
+}
+
+int CFeApi::WriteToFile(const char* path) {
+  if (!pFenster_) return 0;
+  return Geschuetzt(0, [&] { return pFenster_->SaveToFile(PathOf(path)) ? 1 : 0; });
+}
+
+void CFeApi::WriteToBuffer(long* length, char** buffer) const {
+  if (!pFenster_ || !length || !buffer) return;
+  Geschuetzt([&] {
+    CIniFile document;
+    pFenster_->SaveToBuffer(document);
+    std::string text;
+    for (const CString& line : document.GetLines()) {
+      text += line.View();
+      text += kPufferTrenner;
+    }
+    auto block = std::make_unique<char[]>(text.size());
+    std::memcpy(block.get(), text.data(), text.size());
+    *length = static_cast<long>(text.size());
+    *buffer = block.release();
+  });
+}
+
+void CFeApi::FreeBuffer(char** buffer) const {
+  if (!buffer) return;
+  delete[] *buffer;
+  *buffer = nullptr;
+}
+
+int CFeApi::Berechne() {
+  if (!pFenster_) return 0;
+  return Geschuetzt(0, [&] { return pFenster_->Berechne(false) ? 1 : 0; });
+}

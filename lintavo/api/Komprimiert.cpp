@@ -1,0 +1,22 @@
+#include <zlib.h>
+
+#include "lintavo/api/Komprimiert_intern.h"
+#include "lintavo/platform/Files_intern.h"
+
+namespace lintavo {
+
+bool LiesKomprimiert(const CString& path, KomprimierterText& text) {
+  std::string input;
+  if (!ReadFileStart(path, static_cast<std::size_t>(kKomprimiertMax), input)) return false;
+  // Bytes past the end of the file count as zeroes, up to the limit.
+  input.resize(static_cast<std::size_t>(kKomprimiertMax));
+  uLongf length = kKomprimiertMax;
+  // A damaged or cut stream is not an error here, on purpose: what could be
+  // inflated is parsed, and the area counts whole then.
+  const int result = uncompress(reinterpret_cast<Bytef*>(text.Bytes), &length,
+                                reinterpret_cast<const Bytef*>(input.data()), input.size());
+  text.lLaenge = result == Z_OK ? static_cast<long>(length) : kKomprimiertMax;
+  return true;
+}
+
+}  // namespace lintavo

@@ -1,0 +1,44 @@
+// The compressed macro file, and text that ends its lines with a separator.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "lintavo/platform/CString.h"
+
+namespace lintavo {
+
+/// Bytes of a compressed file that are read, and of text that they may inflate
+/// to. Both limits are part of the format.
+inline constexpr long kKomprimiertMax = 10000;
+
+/// An inflated macro file. Where the stream is damaged the area holds what
+/// could be inflated, then zeroes, and counts whole.
+struct KomprimierterText {
+  char Bytes[kKomprimiertMax] = {};
+  long lLaenge = 0;
+};
+
+/// Reads and inflates a compressed macro file; false only when the file cannot
+/// be opened.
+bool LiesKomprimiert(const CString& path, KomprimierterText& text);
+
+/// Calls `visit` for every line that ends with `separator`, until it returns
+/// false. Line feeds are skipped; bytes after the last separator are no line.
+template <class Visit>
+void JedeZeile(long length, const char* bytes, int separator, Visit visit) {
+  constexpr char kZeilenvorschub = '\n';
+  std::string line;
+  for (long i = 0; bytes && i < length; ++i) {
+    const char c = bytes[i];
+    if (c == kZeilenvorschub) continue;
+    if (static_cast<unsigned char>(c) != static_cast<unsigned char>(separator)) {
+      line += c;
+      continue;
+    }
+    if (!visit(std::string_view(line))) return;
+    line.clear();
+  }
+}
+
+}  // namespace lintavo

@@ -1,0 +1,218 @@
+// The calculation: from the stored description of a window to its geometry.
+#include <algorithm>
+#include <cmath>
+
+#include "lintavo/geom/PolygonVereinigung.h"
+#include "lintavo/geom/Toleranzen.h"
+#include "lintavo/model/CMFenster.h"
+#include "lintavo/resources/StringTable.h"
+
+using lintavo::StringId;
+
+namespace {
+
+// Sides that turn by less than this, in degrees, may belong to one bent part.
+constexpr double kGroessteWendung = 25.0;
+
+// Section-end types of outer extra parts.
+constexpr int kEndeAnGehrung = 2;      // ends on the cut between its side and the next
+constexpr int kEndeAnSeite = 3;        // ends on the outer contour of its side alone
+constexpr int kEndeAnAussenkontur = 4;  // ends on the outer contour of the whole frame
+
+// The axis of an outer extra part is lengthened far past any contour before it
+// is cut back to one.
+constexpr double kAnschlussVerlaengerung = 10000.0;
+constexpr double kAnschlussSchnittAbstand = 0.25;  // of the part's width
+
+bool IsAnVerbindung(int endtyp) { return endtyp == kEndeAnGehrung || endtyp == kEndeAnSeite; }
+
+[[noreturn]] void Throw(StringId id, const CString& arg) {
+  throw CMException(static_cast<int>(id), arg);
+}
+
+void ThrowIfFailed(const CMZusatzMasz* masz) {
+  if (masz) Throw(StringId::MeldungZusatzmaszNichtAngebracht, masz->strName);
+}
+
+void CopyVertex(const GEOM2_Polygon& from, long i, GEOM2_Polygon& to) {
+  const GEOM2_Eckpunkt& ecke = from.GetEckpunkt(static_cast<int>(i));
+  to.AddPunkt(ecke.x, ecke.y);
+}
+
+void ClearValues(GEOM2_Polygon& polygon) {
+  for (int i = 0; i < polygon.GetAnzahl(); ++i) {
+    polygon.SetWert2(i, 0.0);
+    polygon.SetAttribut(i, 0);
+  }
+}
+
+enum class Ende { kAnfang, kEnde };
+
+// Lengthens one end of an outer extra part and cuts it to a contour. The other
+// end keeps its cut angle; lengthening alone would clear both.
+void EndeAnschliessen(CMBauteil& bauteil, Ende ende, const GEOM2_Polygon& kontur) {
+  const GEOM2_Achse before = bauteil.Achse(0);
+  const bool atStart = ende == Ende::kAnfang;
+  bauteil.Verlaengern(atStart ? kAnschlussVerlaengerung : 0.0,
+                      atStart ? 0.0 : kAnschlussVerlaengerung);
+  GEOM2_Achse& achse = bauteil.Achse(0);
+  if (!kontur.AchseClippen(achse, kAnschlussSchnittAbstand * bauteil.dBreite)) {
+    achse = before;
+    return;
+  }
+  if (atStart) {
+    achse.dWinkelEnde = before.dWinkelEnde;
+  } else {
+    achse.dWinkelAnfang = before.dWinkelAnfang;
+  }
+}
+
+}  // namespace
+
+bool CMFenster::Berechne(bool bPfostenRiegelAutomatisch) {
+  fehlerNummer_ = 0;
+  fehlerText_.Empty();
+  try {
+    Rechne(bPfostenRiegelAutomatisch);
+  } catch (const CMException& e) {
+    fehlerNummer_ = e.iNummer;
+    fehlerText_ = e.strText;
+    return false;
+  }
+  neu_ = false;
+  return true;
+}
+
+void CMFenster::Rechne(bool bPfostenRiegelAutomatisch) {
+  achsen_.AlleVerschiebungenZulassen(true);
+  ThrowIfFailed(ZusatzMaszAchsVerschiebungen());
+
+  std::vector<GEOM2_Polygon> grundformen;
+  double extrem = -lintavo::kLeereBox;
+  GetFluegelGrundformen(grundformen, extrem);
+  rahmen_.SetName(lintavo::Text(StringId::Rahmen));
+  RahmenUmrissBilden(grundformen);
+  if (FluegelStichAnpassung(grundformen)) {
+    GetFluegelGrundformen(grundformen, extrem);
+    RahmenUmrissBilden(grundformen);
+  }
+  ThrowIfFailed(ZusatzMaszRahmenEckenVerschiebungen(grundformen));
+
+  RahmenBauen(bPfostenRiegelAutomatisch, grundformen);
+  FluegelBauen(grundformen);
+  for (const auto& fluegel : fluegel_) fluegel->ClippSprossen();
+}
+
+void CMFenster::GetFluegelGrundformen(std::vector<GEOM2_Polygon>& grundformen, double& dExtrem) {
+  grundformen.clear();
+  grundformen.reserve(fluegel_.size());
+  for (const auto& fluegel : fluegel_) {
+    XY p1;
+    XY p2;
+    XY pAL;
+    XY pAR;
+    fluegel->GetPlazierungsPunkte(achsen_, p1, p2, pAL, pAR);
+    GEOM2_Polygon& form = grundformen.emplace_back();
+    fluegel->BerechneGrundform(p1, p2, pAL, pAR, form);
+    for (int i = 0; i < form.GetAnzahl(); ++i) dExtrem = std::max(dExtrem, form.GetEckpunkt(i).y);
+  }
+}
+
+bool CMFenster::FluegelStichAnpassung(std::vector<GEOM2_Polygon>&) {
+  bool changed = false;
+  for (const auto& fluegel : fluegel_) changed = fluegel->bStichAnpassen(*this) || changed;
+  return changed;
+}
+
+// The frame's outline: the union of all sash outlines, counter-clockwise.
+void CMFenster::RahmenUmrissBilden(const std::vector<GEOM2_Polygon>& grundformen) {
+  double box[4];
+  rahmen_.RahmenPolygon.Clear();
+  bPolygoneAddieren(grundformen, rahmen_.RahmenPolygon, lintavo::kVereinigung, box);
+  rahmen_.RahmenPolygon.SetOrientierung(true);
+  box_ = {box[0], box[1], box[2], box[3]};
+}
+
+// Frame parts, mullions, transoms, and extra parts of the frame.
+void CMFenster::RahmenBauen(bool bPfostenRiegelAutomatisch,
+                            const std::vector<GEOM2_Polygon>& grundformen) {
+  rahmen_.RahmenSegmenteZusammenfassen(rahmenAbschnitt_, kGroessteWendung, rahmen_.RahmenPolygon);
+  rahmen_.ErzeugeRahmenBauteile();
+  GEOM2_Polygon innen;
+  if (rahmen_.ErzeugeRahmenInnenPolygon(innen)) {
+    if (bPfostenRiegelAutomatisch) PfostenUndRiegelAutomatischSetzen(innen, grundformen);
+    PfostenUndRiegelVerschneiden(innen);
+  }
+  rahmen_.PlaziereZusatzteile(true);
+  AussenZusatzteilAnschluesseBerechnen();
+}
+
+void CMFenster::FluegelBauen(const std::vector<GEOM2_Polygon>& grundformen) {
+  for (std::size_t i = 0; i < fluegel_.size() && i < grundformen.size(); ++i) {
+    CMFensterSatz& fluegel = *fluegel_[i];
+    if (!fluegel.BerechneRahmenPolygon(rahmenAbschnitt_, kGroessteWendung, rahmen_,
+                                       grundformen[i])) {
+      // The number counts from 0, as the message always has.
+      throw CMException(static_cast<int>(StringId::MeldungKeinFluegelpolygon),
+                        static_cast<long>(i));
+    }
+    fluegel.ErzeugeRahmenBauteile();
+    fluegel.PlaziereZusatzteile(false);
+  }
+}
+
+void CMFenster::AussenZusatzteilAnschluesseBerechnen() {
+  std::vector<CMBauteil>& teile = rahmen_.EinzelTeile;
+  if (std::none_of(teile.begin(), teile.end(),
+                   [](const CMBauteil& teil) { return teil.IsZusatzteilAussen(); })) {
+    return;
+  }
+  GEOM2_Polygon aussen;
+  if (!rahmen_.ErzeugeRahmenAussenPolygon(aussen)) return;
+  ClearValues(aussen);
+  XY low;
+  XY high;
+  aussen.GetMinMax(low, high);
+  box_ = {std::min(box_.xmin, low.x), std::min(box_.ymin, low.y), std::max(box_.xmax, high.x),
+          std::max(box_.ymax, high.y)};
+
+  for (CMBauteil& teil : teile) {
+    if (!teil.IsZusatzteilAussen() || !teil.IsVorhanden()) continue;
+    AussenTeilAnschliessen(teil, aussen);
+  }
+}
+
+// Fits both ends of one outer extra part by their section-end types.
+void CMFenster::AussenTeilAnschliessen(CMBauteil& teil, const GEOM2_Polygon& aussen) const {
+  const int typAnfang = teil.cAbschnittsTypAnfang;
+  const int typEnde = teil.cAbschnittsTypEnde;
+  GEOM2_Polygon verbindung;
+  if (IsAnVerbindung(typAnfang) || IsAnVerbindung(typEnde)) {
+    if (!VerbindungBilden(teil, aussen, verbindung)) return;
+  }
+  if (IsAnVerbindung(typAnfang)) EndeAnschliessen(teil, Ende::kAnfang, verbindung);
+  if (typAnfang == kEndeAnAussenkontur) EndeAnschliessen(teil, Ende::kAnfang, aussen);
+  if (IsAnVerbindung(typEnde)) EndeAnschliessen(teil, Ende::kEnde, verbindung);
+  if (typEnde == kEndeAnAussenkontur) EndeAnschliessen(teil, Ende::kEnde, aussen);
+}
+
+// The quadrilateral between a side of the frame and the outer contour, in which
+// the side's extra parts end. False when a contour has lost corners, so that
+// the side has no counterpart on it.
+bool CMFenster::VerbindungBilden(const CMBauteil& teil, const GEOM2_Polygon& aussen,
+                                 GEOM2_Polygon& verbindung) const {
+  const GEOM2_Polygon& rahmen = rahmen_.RahmenPolygon;
+  const long s = teil.lSeite;
+  GEOM2_Polygon seite;
+  if (!rahmen_.ErzeugeRahmenAussenPolygon(seite, s)) return false;
+  const int count = rahmen.GetAnzahl();
+  if (s < 0 || s >= count || aussen.GetAnzahl() != count || seite.GetAnzahl() != count) {
+    return false;
+  }
+  const long n = s + 1 < count ? s + 1 : 0;
+  CopyVertex(rahmen, s, verbindung);
+  CopyVertex(teil.cAbschnittsTypAnfang == kEndeAnSeite ? seite : aussen, s, verbindung);
+  CopyVertex(teil.cAbschnittsTypEnde == kEndeAnSeite ? seite : aussen, n, verbindung);
+  CopyVertex(rahmen, n, verbindung);
+  return true;
+}
