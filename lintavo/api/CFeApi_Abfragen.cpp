@@ -1,5 +1,8 @@
 // The façade's queries and setters: check, look up, read or store.
+#include <algorithm>
+#include <cmath>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 #include "lintavo/api/CFeApi.h"
@@ -34,25 +37,30 @@ const std::vector<CMBauteil>* ListeDerArt(const CMFensterSatz& satz, long lArt,
   }
 }
 
-// Component `i` of a kind; null for a bad kind or index, also past the end,
-// where the sash itself would answer with its template.
+// The i-th of the components that are there to be seen; null past the last.
+// Components without a width or length, such as a mullion of which the frame
+// leaves nothing, do not count, so that a host that counts to the number of
+// components meets every one of them.
+template <class Liste>
+auto VorhandenesBauteil(Liste& liste, long i) -> decltype(liste.data()) {
+  if (i < 0) return nullptr;
+  for (auto& bauteil : liste) {
+    if (bauteil.IsVorhanden() && i-- == 0) return &bauteil;
+  }
+  return nullptr;
+}
+
 const CMBauteil* BauteilDerArt(const CMFensterSatz* satz, long lArt, long i, bool mitSprossen) {
   const std::vector<CMBauteil>* liste = satz ? ListeDerArt(*satz, lArt, mitSprossen) : nullptr;
-  if (!liste || i < 0 || static_cast<std::size_t>(i) >= liste->size()) return nullptr;
-  return &(*liste)[static_cast<std::size_t>(i)];
+  return liste ? VorhandenesBauteil(*liste, i) : nullptr;
 }
 
 long AnzahlDerArt(const CMFensterSatz& satz, long lArt, bool mitSprossen) {
-  switch (lArt) {
-    case kArtRahmenteil:
-      return satz.lGetAnzahlRahmenBauteile();
-    case kArtEinzelteil:
-      return satz.lGetAnzahlEinzelBauteile();
-    case kArtSprosse:
-      return mitSprossen ? satz.lGetAnzahlSprossenBauteile() : 0;
-    default:
-      return 0;
-  }
+  const std::vector<CMBauteil>* liste = ListeDerArt(satz, lArt, mitSprossen);
+  return liste ? static_cast<long>(std::count_if(
+                     liste->begin(), liste->end(),
+                     [](const CMBauteil& bauteil) { return bauteil.IsVorhanden(); }))
+               : 0;
 }
 
 int UmrissVon(const CMBauteil* bauteil, long lSegment, CFeApiPolygon& umriss, double& dLaenge,
@@ -84,7 +92,7 @@ void SetzeRahmenMasz(CMFensterSatz& satz, double CMBauteil::*masz, double value)
   for (CMBauteil& bauteil : satz.RahmenTeile) bauteil.*masz = value;
 }
 
-bool IstMasz(double value) { return value >= lintavo::kNullLaenge; }
+bool IstMasz(double value) { return value >= lintavo::kNullLaenge && std::isfinite(value); }
 
 // A new length takes over the sign of the stored one, which tells the side that
 // the dimension is counted to.
@@ -313,7 +321,7 @@ int CFeApi::SetzeRahmen(CMFensterSatz* satz, double CMBauteil::*masz, double val
 
 int CFeApi::SetzeSprosse(long i, long j, double CMBauteil::*masz, double value) {
   CMFensterSatz* fluegel = Fluegel(i);
-  CMBauteil* sprosse = fluegel ? fluegel->GetSprossenBauteilPtr(j) : nullptr;
+  CMBauteil* sprosse = fluegel ? VorhandenesBauteil(fluegel->Sprossen, j) : nullptr;
   if (!sprosse || !IstMasz(value)) return 0;
   sprosse->*masz = value;
   return 1;

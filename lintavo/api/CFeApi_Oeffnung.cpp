@@ -18,6 +18,8 @@ constexpr int kMitSchraege = 1;
 // Presets of the search for the axes in use.
 constexpr long kKleinsterIndexStart = 30000;
 
+bool IstMasz(double value) { return value >= lintavo::kNullLaenge && std::isfinite(value); }
+
 bool IstNull(double value) { return std::fabs(value) < lintavo::kNullLaenge; }
 
 // Equal in magnitude; the sign is not looked at, on purpose.
@@ -171,7 +173,7 @@ int CFeApi::SetBreiteHoehe(const Parameter& param, double width, double height) 
       margins[1] = (low.y - rahmenLow.y) + (rahmenHigh.y - high.y);
     }
     const double length[2] = {width + margins[0], height + margins[1]};
-    if (!(length[0] >= lintavo::kNullLaenge) || !(length[1] >= lintavo::kNullLaenge)) return 0;
+    if (!IstMasz(length[0]) || !IstMasz(length[1])) return 0;
     SetzeLaenge(*ZusatzMasz(h), length[0]);
     SetzeLaenge(*ZusatzMasz(v), length[1]);
     return 1;
