@@ -3,7 +3,8 @@
 // The record holds what a sash is made of and derives its frame parts, contours
 // and bars; the outline comes from its shape class. Sources by theme:
 // CMFensterSatz.cpp (state, lists), _Datei (file section), _Rahmen (frame
-// polygon and parts), _Sprossen (glazing bars), _Zusatzteile (extra parts).
+// polygon and parts), _Sprossen (glazing bars), _Stich (rise fitting),
+// _Zusatzteile (extra parts).
 #pragma once
 
 #include <vector>
@@ -242,11 +243,30 @@ class LINTAVO_API CMFensterSatz {
   bool bGespiegelt = false;          ///< half arches: crown on the left
   int lTyp2 = 0;                     ///< second number of the file's "Typ"
 
+ protected:
+  /// Fits the top rise to the first vertical, one-sided dimension that starts
+  /// at a corner point and ends on this arch's springing line: the line moves so
+  /// that the span becomes the dimension's length, and so does that of every
+  /// other arch of the window on whose line the dimension ends. The end nodes of
+  /// the fitted dimensions move along, so that fitting again changes nothing.
+  /// True when the rise changed; throws 49 when it would be negative or exceed
+  /// the sash's width.
+  bool bBaseStichAnpassen(CMFenster& fenster);
+  /// The keys that arches and half arches share.
+  void ReadBogenFromIniFile(const CString& section, CIniFile& document);
+  void SaveBogenToIniFile(const CString& section, CIniFile& document) const;
+
  private:
   void BauteileDenSeitenZuordnen();
   template <class Gilt>
   bool AussenPolygon(Gilt gilt, GEOM2_Polygon& out) const;
   bool InnenPolygon(bool mitZusatzteilen, const GEOM2_Polygon& polygon, GEOM2_Polygon& out) const;
+  bool SprossenKontur(GEOM2_Polygon& contour) const;
+  CMBauteil* SprosseAnfuegen(const CMBauteil& vorlage, GEOM2_Achse achse,
+                             const GEOM2_Polygon& contour);
+  bool HaengtAn(const CMBauteil& part, std::size_t rahmenteil) const;
+  long* KettenEnde(const CMBauteil& part);
   bool ZusatzteilAnschliessen(CMBauteil& part, bool aussen);
-  CMBauteil* LetztesGliedDerSeite(long side, long& glied);
+  std::vector<bool> KettenPruefen();
+  void KettePlazieren(CMBauteil& rahmenteil, bool aussen);
 };
