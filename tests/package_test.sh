@@ -30,6 +30,14 @@ if find "$prefix" -name '*_intern.h' | grep .; then
 fi
 [ -e "$prefix/include/lintavo/api/CFeApi.h" ] || fail "CFeApi.h is not installed"
 
+# Configures and builds the CMake project in a folder against the prefix.
+build_with_cmake() {
+  { "$cmake" -S "$1" -B "$1/build" -DCMAKE_PREFIX_PATH="$prefix" \
+    -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_CXX_FLAGS="$flags" &&
+    "$cmake" --build "$1/build"; } >"$scratch/log" 2>&1 ||
+    { cat "$scratch/log"; fail "$1 cannot be built against the installation"; }
+}
+
 # Prints one line per frame part, so a working host prints several.
 run_host() {
   local output
@@ -38,11 +46,7 @@ run_host() {
 }
 
 cp -r "$source_dir/examples/host_cpp" "$scratch/host"
-"$cmake" -S "$scratch/host" -B "$scratch/host/build" \
-  -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_CXX_FLAGS="$flags" \
-  >"$scratch/log" 2>&1 || { cat "$scratch/log"; fail "the host cannot be configured"; }
-"$cmake" --build "$scratch/host/build" >"$scratch/log" 2>&1 ||
-  { cat "$scratch/log"; fail "the host cannot be built"; }
+build_with_cmake "$scratch/host"
 run_host "$scratch/host/build/host" "CMake package"
 
 pc_dir=$(dirname "$(find "$prefix" -name lintavo.pc)")
@@ -56,8 +60,35 @@ run_host "$scratch/pc_host" "pkg-config"
 
 # The drawing library and the command come with their own way to the library.
 if [ -e "$prefix/bin/lintavo" ]; then
-  pkg-config --exists lintavo-drawing || fail "lintavo-drawing.pc is not usable"
   "$prefix/bin/lintavo" show "$window" >/dev/null || fail "the installed command fails"
+
+  mkdir "$scratch/painter"
+  cat >"$scratch/painter/main.cpp" <<'END'
+#include "lintavo/drawing/Picture.h"
+#include "lintavo/lintavo.h"
+
+int main(int argc, char** argv) {
+  using namespace lintavo::drawing;
+  CFeApi window;
+  if (argc != 3 || window.ReadFromFile(argv[1]) != 1) return 1;
+  return WritePicture(BuildScene(window), PictureFormat::kSvg, argv[2]) == PictureStatus::kOk ? 0 : 1;
+}
+END
+  cat >"$scratch/painter/CMakeLists.txt" <<'END'
+cmake_minimum_required(VERSION 3.25)
+project(painter LANGUAGES CXX)
+find_package(lintavo 1 CONFIG REQUIRED)
+add_executable(painter main.cpp)
+target_link_libraries(painter PRIVATE lintavo::drawing)
+END
+  build_with_cmake "$scratch/painter"
+  "$scratch/painter/build/painter" "$window" "$scratch/a.svg" || fail "the painter fails"
+  pc_flags=$(pkg-config --cflags --libs lintavo-drawing) || fail "lintavo-drawing.pc is not usable"
+  # shellcheck disable=SC2086
+  "$cxx" $flags "$scratch/painter/main.cpp" -o "$scratch/pc_painter" $pc_flags \
+    "-Wl,-rpath,$lib_dir"
+  "$scratch/pc_painter" "$window" "$scratch/b.svg" || fail "pkg-config: the painter fails"
+  cmp "$scratch/a.svg" "$scratch/b.svg"
 fi
 
 # A shared library carries its major version in its name.
