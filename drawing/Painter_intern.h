@@ -1,0 +1,26 @@
+// Puts a scene onto a Cairo surface: the layout on paper and the colours.
+#pragma once
+
+#include <cairo.h>
+
+#include "lintavo/drawing/Scene.h"
+
+namespace lintavo::drawing {
+
+/// Where a scene lies on paper, whose origin is the upper left corner.
+struct Layout {
+  double width = 0.0;   ///< of the paper, in its units
+  double height = 0.0;  ///< of the paper
+  double margin = 0.0;
+  double scale = 0.0;  ///< paper units per unit of the window
+  Box box;             ///< of the scene, in the window's units
+};
+
+/// Fits a box into paper whose longer side is `longSide`. False when the box's
+/// extent is zero, or so large or small that no finite scale exists.
+bool FitLayout(const Box& box, double longSide, Layout& layout);
+
+/// Paints every shape: filled with the colour of its kind, thinly outlined.
+void PaintScene(cairo_t* cairo, const Scene& scene, const Layout& layout);
+
+}  // namespace lintavo::drawing

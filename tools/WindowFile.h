@@ -1,0 +1,29 @@
+// Reads, fits and writes the window that a command works on.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+#include "lintavo/api/CFeApi.h"
+
+namespace lintavo::tools {
+
+/// A command that cannot be carried out; `what` is the line for the user.
+class CommandError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Reads and calculates a macro file, compressed when its name ends in "cqz".
+/// Throws `CommandError` with the library's own message, which names the file.
+void LoadWindow(const std::string& path, CFeApi& window);
+
+/// Fits the window into an opening without reveals and calculates it anew.
+/// Throws `CommandError` when the window has no dimensions for its overall
+/// width and height or cannot take the size.
+void FitWindow(const std::string& path, double width, double height, CFeApi& window);
+
+/// Writes the plain macro file. Throws `CommandError` when that fails.
+void SaveWindow(const std::string& path, CFeApi& window);
+
+}  // namespace lintavo::tools
