@@ -168,9 +168,8 @@ void GEOM2_Polygon::SetOrientierung(bool gegenUhrzeigersinn) {
 
 void GEOM2_Polygon::Umkehren() {
   if (GetAnzahl() < 3) return;
-  const bool geschlossen =
-      lintavo::Abstand(lintavo::Ort(ecken_.front()), lintavo::Ort(ecken_.back())) <
-      lintavo::kNullLaenge;
+  const bool geschlossen = lintavo::Abstand(lintavo::Ort(ecken_.front()),
+                                            lintavo::Ort(ecken_.back())) < lintavo::kNullLaenge;
   // The attributes stay with their vertices on purpose: callers that need them on the
   // reversed edges set them again.
   std::reverse(ecken_.begin() + 1, ecken_.end() - (geschlossen ? 1 : 0));
@@ -182,17 +181,16 @@ double GEOM2_Polygon::GetFlaeche() const {
   const XY bezug = lintavo::Ort(ecken_.front());
   double summe = 0.0;
   for (int i = 1; i + 1 < GetAnzahl(); ++i) {
-    summe += lintavo::Kreuzprodukt(
-        lintavo::Differenz(lintavo::Ort(GetEckpunkt(i)), bezug),
-        lintavo::Differenz(lintavo::Ort(GetEckpunkt(i + 1)), bezug));
+    summe += lintavo::Kreuzprodukt(lintavo::Differenz(lintavo::Ort(GetEckpunkt(i)), bezug),
+                                   lintavo::Differenz(lintavo::Ort(GetEckpunkt(i + 1)), bezug));
   }
   return summe / 2;
 }
 
 bool GEOM2_Polygon::IsAufRand(const XY& p, double tol) const {
   for (int i = GetAnzahl() - 1; i >= 0; --i) {
-    if (IsPunktAufStrecke(p, lintavo::Ort(GetEckpunkt(i)),
-                          lintavo::Ort(GetEckpunkt(Naechster(i))), tol)) {
+    if (IsPunktAufStrecke(p, lintavo::Ort(GetEckpunkt(i)), lintavo::Ort(GetEckpunkt(Naechster(i))),
+                          tol)) {
       return true;
     }
   }

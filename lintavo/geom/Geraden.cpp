@@ -77,8 +77,8 @@ void LotFusspunkt(const XY& p, const XY& a, const XY& b, double tol, XY& fuss, d
   const double t = ((punkt.x - anfang.x) * dx + (punkt.y - anfang.y) * dy) / q;
   fuss = {anfang.x + t * dx, anfang.y + t * dy};
   bInnerhalb = -tol < t && t < 1.0 + tol;
-  dAbstand = std::sqrt((fuss.x - punkt.x) * (fuss.x - punkt.x) +
-                       (fuss.y - punkt.y) * (fuss.y - punkt.y));
+  dAbstand =
+      std::sqrt((fuss.x - punkt.x) * (fuss.x - punkt.x) + (fuss.y - punkt.y) * (fuss.y - punkt.y));
 }
 
 int StreckeParallel(double x1, double y1, double x2, double y2, double d, double tol, double& x1n,

@@ -97,17 +97,20 @@ Ausgang GedrehteSeite(Kette& kette, std::size_t i, int umlauf, bool konvex) {
   return kette.Loeschen(i) ? Ausgang::kGeloescht : Ausgang::kBleibt;
 }
 
-/// Sides whose neighbours lie on its own line are joined to the side before them, so
-/// that every remaining pair of neighbours has a corner or is truly parallel.
-void GleicheGeradenVerbinden(Kette& kette, const std::vector<Kettenseite>& seiten) {
-  XY ecke;
+/// The corners of an open row. A side that goes on along the line of the side before
+/// it is joined to that one; parallel neighbours beside each other keep a corner where
+/// the second one says that it starts.
+void EckenSchneiden(Kette& kette, const std::vector<Kettenseite>& seiten) {
   for (std::size_t i = 1; i < seiten.size(); ++i) {
     const std::size_t p = kette.Davor(i);
-    if (GeradenSchneiden(seiten[p].hinten, seiten[i].vorn, ecke)) {
-      kette.Ecke(i) = ecke;
-    } else if (p > 0 && i + 1 < seiten.size()) {
-      kette.Aushaengen(i);
-    }
+    const Gerade& vorige = seiten[p].hinten;
+    const XY start = seiten[i].vorn.punkt;
+    if (GeradenSchneiden(vorige, seiten[i].vorn, kette.Ecke(i))) continue;
+    kette.Ecke(i) = start;
+    const double neben = Kreuzprodukt(Einheit(vorige.richtung), Differenz(start, vorige.punkt));
+    const bool weiter = Skalarprodukt(vorige.richtung, seiten[i].vorn.richtung) > 0.0;
+    const bool innen = p > 0 && i + 1 < seiten.size();
+    if (innen && weiter && std::fabs(neben) <= kNullLaenge) kette.Aushaengen(i);
   }
 }
 
@@ -130,11 +133,14 @@ GeschlosseneKette VerschwundeneSeitenLoeschen(const std::vector<Kettenseite>& se
 
   Kette kette(seiten, true);
   bool konvex = true;
+  double umdrehung = 0.0;
   for (std::size_t i = 0; i < n; ++i) {
     kette.Ecke(i) = ecken[i];
     kette.Wendung(i) = Drehung(seiten[kette.Davor(i)].richtung, seiten[i].richtung);
     konvex = konvex && umlauf * kette.Wendung(i) >= -kHalbeDrehung;
+    umdrehung += umlauf * kette.Wendung(i);
   }
+  konvex = konvex && umdrehung < 3 * kPi;
   std::vector<std::size_t> offen(n);
   for (std::size_t i = 0; i < n; ++i) offen[i] = n - 1 - i;
   while (!offen.empty()) {
@@ -164,7 +170,7 @@ GeschlosseneKette VerschwundeneSeitenLoeschen(const std::vector<Kettenseite>& se
 std::vector<Kettenecke> OffeneKetteSchneiden(const std::vector<Kettenseite>& seiten) {
   if (seiten.size() < 2) return {};
   Kette kette(seiten, false);
-  GleicheGeradenVerbinden(kette, seiten);
+  EckenSchneiden(kette, seiten);
   const std::size_t letzte = seiten.size() - 1;
   XY ecke;
   if (kette.Anzahl() == 2 && !GeradenSchneiden(seiten[0].hinten, seiten[letzte].vorn, ecke)) {

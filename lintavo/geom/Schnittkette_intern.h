@@ -48,8 +48,8 @@ struct Kettenecke {
 /// What is left of a closed chain.
 struct GeschlosseneKette {
   std::vector<Kettenecke> ecken;  ///< in order; empty when the outline vanished
-  bool gedreht = false;  ///< turned sides remain that no two neighbours imply (never for
-                         ///< convex outlines): the ring has loops
+  bool gedreht = false;           ///< turned sides remain that no two neighbours imply (never for
+                                  ///< convex outlines): the ring has loops
 };
 
 /// Intersects two lines; false, p untouched, when they are parallel.

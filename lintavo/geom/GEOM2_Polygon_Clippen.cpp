@@ -1,0 +1,171 @@
+// Cutting segments and axes to the polygon.
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <vector>
+
+#include "lintavo/geom/GEOM2_Polygon.h"
+#include "lintavo/geom/Streckenteilung_intern.h"
+#include "lintavo/geom/Toleranzen.h"
+#include "lintavo/geom/Vektor_intern.h"
+
+namespace {
+
+using lintavo::kNullLaenge;
+
+/// The longest stretch inside, the first of equals; null when nothing is inside.
+const lintavo::Streckenstueck* LaengstesInnen(const std::vector<lintavo::Streckenstueck>& stuecke) {
+  const lintavo::Streckenstueck* laengstes = nullptr;
+  for (const lintavo::Streckenstueck& stueck : stuecke) {
+    if (!stueck.innen) continue;
+    if (laengstes == nullptr ||
+        stueck.bis - stueck.von > laengstes->bis - laengstes->von + kNullLaenge) {
+      laengstes = &stueck;
+    }
+  }
+  return laengstes;
+}
+
+/// The outline as an axis sees it: u along the axis from its start, v to its left, the
+/// inside on the left of every edge.
+class Achssicht {
+ public:
+  Achssicht(const GEOM2_Polygon& polygon, const XY& start, const XY& richtung) {
+    for (int i = 0; i < polygon.GetAnzahl(); ++i) {
+      const XY p = lintavo::Differenz(lintavo::Ort(polygon.GetEckpunkt(i)), start);
+      ecken_.push_back({lintavo::Skalarprodukt(richtung, p), lintavo::Kreuzprodukt(richtung, p)});
+    }
+    if (polygon.GetFlaeche() < 0.0) std::reverse(ecken_.begin(), ecken_.end());
+  }
+
+  /// Tangent of the cut where the axis ends at u: sinn is +1 at its end, -1 at its start.
+  /// False when the axis does not meet the outline there.
+  bool Schnitttangens(double u, double d, int sinn, double& tangens) const {
+    double kante = 0.0;
+    if (!Kantentangens(u, kante)) return false;
+    double links = 0.0;
+    double rechts = 0.0;
+    const double grenze = std::tan(lintavo::kGroessterSchnittwinkel * lintavo::kRadiantJeGrad);
+    tangens = kante;
+    if (d > kNullLaenge && Durchgang(u, d, sinn, links) && Durchgang(u, -d, sinn, rechts)) {
+      const double beide = (links - rechts) / (2 * d);
+      // A parallel that finds the outline only far away has missed the part of it that the
+      // axis meets.
+      if (std::fabs(beide) <= grenze) tangens = beide;
+    }
+    tangens = std::clamp(tangens, -grenze, grenze);
+    return true;
+  }
+
+ private:
+  const XY& Danach(std::size_t i) const { return ecken_[i + 1 == ecken_.size() ? 0 : i + 1]; }
+
+  /// Lean of the edge on which (u, 0) lies; of several the one most across the axis.
+  bool Kantentangens(double u, double& tangens) const {
+    double amStaerksten = -1.0;
+    for (std::size_t i = 0; i < ecken_.size(); ++i) {
+      const XY p{ecken_[i].x - u, ecken_[i].y};
+      const XY weg = lintavo::Differenz(Danach(i), ecken_[i]);
+      const double laenge = lintavo::Betrag(weg);
+      if (!(laenge > kNullLaenge)) continue;
+      const double entlang = -lintavo::Skalarprodukt(p, weg) / laenge;
+      const double neben = lintavo::Kreuzprodukt(weg, p) / laenge;
+      if (entlang < -2 * kNullLaenge || entlang > laenge + 2 * kNullLaenge ||
+          std::fabs(neben) > 2 * kNullLaenge) {
+        continue;
+      }
+      const double quer = std::fabs(weg.y) / laenge;
+      if (quer <= amStaerksten + lintavo::kParallelSinus) continue;
+      amStaerksten = quer;
+      tangens = Tangens(weg);
+    }
+    return amStaerksten >= 0.0;
+  }
+
+  static double Tangens(const XY& weg) {
+    if (std::fabs(weg.y) > 0.0) return weg.x / weg.y;
+    return std::numeric_limits<double>::max();
+  }
+
+  /// Where the parallel at v leaves the polygon (sinn +1) or enters it (-1), nearest to u.
+  bool Durchgang(double u, double v, int sinn, double& treffer) const {
+    double naechster = std::numeric_limits<double>::infinity();
+    for (std::size_t i = 0; i < ecken_.size(); ++i) {
+      const XY& p = ecken_[i];
+      const XY& q = Danach(i);
+      if ((p.y < v) == (q.y < v) || (q.y > p.y) != (sinn > 0)) continue;
+      const double hier = p.x + (q.x - p.x) * ((v - p.y) / (q.y - p.y));
+      if (std::fabs(hier - u) >= naechster) continue;
+      naechster = std::fabs(hier - u);
+      treffer = hier;
+    }
+    return std::isfinite(naechster);
+  }
+
+  std::vector<XY> ecken_;
+};
+
+/// Cuts that would cross within d of the axis are leaned back until neither takes more
+/// than half of the length.
+void KreuzendeSchnitteAufrichten(double laenge, double d, double& anfang, double& ende) {
+  if (laenge >= d * std::fabs(ende - anfang)) return;
+  const double grenze = laenge / (2 * d);
+  anfang = std::clamp(anfang, -grenze, grenze);
+  ende = std::clamp(ende, -grenze, grenze);
+}
+
+/// Angles that only rounding tells apart stay, so that cutting twice changes nothing.
+void WinkelSetzen(double tangens, double& winkel) {
+  const double neu = std::atan(tangens) * lintavo::kGradJeRadiant;
+  if (!(std::fabs(neu - winkel) <= lintavo::kGleicherWinkel)) winkel = neu;
+}
+
+}  // namespace
+
+bool GEOM2_Polygon::StreckeClippen(XY& p1, XY& p2) const {
+  const std::vector<lintavo::Streckenstueck> stuecke =
+      lintavo::StreckeTeilen(p1, p2, *this, kNullLaenge);
+  const lintavo::Streckenstueck* innen = LaengstesInnen(stuecke);
+  if (innen == nullptr || stuecke.size() == 1) return false;
+  const XY a = p1;
+  const XY b = p2;
+  const double laenge = lintavo::Abstand(a, b);
+  if (innen != &stuecke.front()) p1 = lintavo::Zwischenpunkt(a, b, innen->von / laenge);
+  if (innen != &stuecke.back()) p2 = lintavo::Zwischenpunkt(a, b, innen->bis / laenge);
+  return true;
+}
+
+bool GEOM2_Polygon::AchseClippen(GEOM2_Achse& achse, double d) const {
+  const double phi = achse.dWinkel * lintavo::kRadiantJeGrad;
+  const XY richtung{std::cos(phi), std::sin(phi)};
+  const XY ende = lintavo::Summe(achse.Start, lintavo::Mal(richtung, achse.dLaenge));
+  std::vector<lintavo::Streckenstueck> stuecke;
+  if (achse.dLaenge >= kNullLaenge) {
+    stuecke = lintavo::StreckeTeilen(achse.Start, ende, *this, kNullLaenge);
+  }
+  const lintavo::Streckenstueck* innen = LaengstesInnen(stuecke);
+  if (innen == nullptr || innen->bis - innen->von < kNullLaenge) {
+    achse.dLaenge = 0.0;
+    return false;
+  }
+  const bool ganzerAnfang = innen == &stuecke.front();
+  const bool ganzesEnde = innen == &stuecke.back();
+  const double von = ganzerAnfang ? 0.0 : innen->von;
+  if (!ganzesEnde) {
+    achse.dLaenge = innen->bis - von;
+  } else if (!ganzerAnfang) {
+    achse.dLaenge -= von;
+  }
+  if (!ganzerAnfang) achse.Start = lintavo::Summe(achse.Start, lintavo::Mal(richtung, von));
+
+  const double breite = std::isfinite(d) ? std::fabs(d) : 0.0;
+  const Achssicht sicht(*this, achse.Start, richtung);
+  double anfang = std::tan(achse.dWinkelAnfang * lintavo::kRadiantJeGrad);
+  double schluss = std::tan(achse.dWinkelEnde * lintavo::kRadiantJeGrad);
+  const bool amAnfang = sicht.Schnitttangens(0.0, breite, -1, anfang);
+  const bool amEnde = sicht.Schnitttangens(achse.dLaenge, breite, 1, schluss);
+  if (amAnfang || amEnde) KreuzendeSchnitteAufrichten(achse.dLaenge, breite, anfang, schluss);
+  if (amAnfang) WinkelSetzen(anfang, achse.dWinkelAnfang);
+  if (amEnde) WinkelSetzen(schluss, achse.dWinkelEnde);
+  return true;
+}

@@ -1,0 +1,262 @@
+// The polygon's offset and clean-up.
+#include <algorithm>
+#include <cmath>
+#include <utility>
+#include <vector>
+
+#include "lintavo/geom/Flaechenrechnung_intern.h"
+#include "lintavo/geom/GEOM2_Polygon.h"
+#include "lintavo/geom/Geraden.h"
+#include "lintavo/geom/Ring_intern.h"
+#include "lintavo/geom/Schnittkette_intern.h"
+#include "lintavo/geom/Toleranzen.h"
+#include "lintavo/geom/Vektor_intern.h"
+
+namespace {
+
+using lintavo::kNullLaenge;
+
+/// A vertex of the result and the source vertex whose side starts there.
+struct Ecke {
+  XY ort;
+  int quelle = 0;
+};
+using Ecken = std::vector<Ecke>;
+
+std::vector<XY> Orte(const Ecken& ecken) {
+  std::vector<XY> orte;
+  orte.reserve(ecken.size());
+  for (const Ecke& ecke : ecken) orte.push_back(ecke.ort);
+  return orte;
+}
+
+bool IstFlach(const XY& a, const XY& b) {
+  return std::fabs(b.y - a.y) <= std::fabs(b.x - a.x);
+}
+
+/// The corner between the incoming edge davor->ecke and the outgoing edge ecke->danach,
+/// shifted by their distances. The intersection routine is given the corner as origin,
+/// the flatter line first and each line from its corner end: so the slopes of steep
+/// sides cost no digits, and distances of 0 give back the very corner.
+bool EckeVerschieben(const XY& davor, const XY& ecke, const XY& danach, double dEin, double dAus,
+                     XY& neu) {
+  const XY ein = lintavo::Differenz(davor, ecke);
+  const XY aus = lintavo::Differenz(danach, ecke);
+  XY e1, e2, a1, a2;
+  if (StreckeParallel(ein.x, ein.y, 0.0, 0.0, dEin, kNullLaenge, e2.x, e2.y, e1.x, e1.y) != 1 ||
+      StreckeParallel(0.0, 0.0, aus.x, aus.y, dAus, kNullLaenge, a1.x, a1.y, a2.x, a2.y) != 1) {
+    return false;
+  }
+  XY p;
+  const int schnitt = IstFlach(e1, e2) ? SchnittpunktGeraden(e1, e2, a1, a2, kNullLaenge, p)
+                                       : SchnittpunktGeraden(a1, a2, e1, e2, kNullLaenge, p);
+  neu = lintavo::Summe(ecke, p);
+  return schnitt == 1 && std::isfinite(neu.x) && std::isfinite(neu.y);
+}
+
+/// Every corner of the offset; those of parallel neighbours and of edges without length
+/// are left out.
+Ecken EckenVerschieben(const GEOM2_Polygon& polygon, const double* abstaende) {
+  Ecken ecken;
+  const int n = polygon.GetAnzahl();
+  ecken.reserve(static_cast<std::size_t>(n));
+  for (int i = 0; i < n; ++i) {
+    const int davor = i == 0 ? n - 1 : i - 1;
+    const int danach = i + 1 == n ? 0 : i + 1;
+    XY neu;
+    if (EckeVerschieben(
+            lintavo::Ort(polygon.GetEckpunkt(davor)), lintavo::Ort(polygon.GetEckpunkt(i)),
+            lintavo::Ort(polygon.GetEckpunkt(danach)), abstaende[davor], abstaende[i], neu)) {
+      ecken.push_back({neu, i});
+    }
+  }
+  return ecken;
+}
+
+lintavo::Gerade SeiteVerschoben(const GEOM2_Polygon& polygon, int i, double d) {
+  XY a;
+  XY b;
+  polygon.GetKante(i, a, b);
+  const XY richtung = lintavo::Differenz(b, a);
+  StreckeParallel(a.x, a.y, b.x, b.y, d, kNullLaenge, a.x, a.y, b.x, b.y);
+  return {a, richtung};
+}
+
+/// The sides between the corners that there are. Where corners were left out a side
+/// takes in several edges: it starts on the first one's line and ends on the last one's.
+std::vector<lintavo::Kettenseite> Seiten(const GEOM2_Polygon& polygon, const double* abstaende,
+                                         const Ecken& ecken) {
+  std::vector<lintavo::Kettenseite> seiten;
+  seiten.reserve(ecken.size());
+  const int n = polygon.GetAnzahl();
+  for (std::size_t k = 0; k < ecken.size(); ++k) {
+    const int erste = ecken[k].quelle;
+    const int ende = ecken[k + 1 == ecken.size() ? 0 : k + 1].quelle;
+    const int letzte = ende == 0 ? n - 1 : ende - 1;
+    const lintavo::Gerade vorn = SeiteVerschoben(polygon, erste, abstaende[erste]);
+    if (letzte == erste) {
+      seiten.emplace_back(vorn);
+      continue;
+    }
+    const XY weg = lintavo::Differenz(lintavo::Ort(polygon.GetEckpunkt(ende)),
+                                      lintavo::Ort(polygon.GetEckpunkt(erste)));
+    seiten.emplace_back(vorn, SeiteVerschoben(polygon, letzte, abstaende[letzte]), weg);
+  }
+  return seiten;
+}
+
+/// Puts the ring in counter-clockwise order, or back into clockwise order: each vertex
+/// keeps standing for the side that starts at it.
+void SeitenUmkehren(Ecken& ecken) {
+  if (ecken.empty()) return;
+  std::reverse(ecken.begin(), ecken.end());
+  const int erste = ecken.front().quelle;
+  for (std::size_t k = 0; k + 1 < ecken.size(); ++k) ecken[k].quelle = ecken[k + 1].quelle;
+  ecken.back().quelle = erste;
+}
+
+/// The pieces that a ring leaves once its loops are cut off, largest first, each starting
+/// as early in the order of the sources as it can. The ring must be counter-clockwise.
+std::vector<Ecken> SchleifenAbschneiden(const Ecken& ecken) {
+  lintavo::Flaechenring ring;
+  for (const Ecke& ecke : ecken) ring.push_back({ecke.ort, static_cast<std::size_t>(ecke.quelle)});
+  std::vector<std::pair<double, Ecken>> stuecke;
+  for (const lintavo::Ergebnisring& gefunden : lintavo::FlaecheVereinigen({ring}, kNullLaenge)) {
+    Ecken stueck;
+    std::size_t erste = 0;
+    for (std::size_t k = 0; k < gefunden.size(); ++k) {
+      stueck.push_back({gefunden[k].ort, static_cast<int>(gefunden[k].kante)});
+      if (gefunden[k].ecke < gefunden[erste].ecke) erste = k;
+    }
+    if (stueck.empty()) continue;
+    std::rotate(stueck.begin(), stueck.begin() + static_cast<std::ptrdiff_t>(erste), stueck.end());
+    const double flaeche = lintavo::Ringflaeche(Orte(stueck));
+    stuecke.emplace_back(flaeche, std::move(stueck));
+  }
+  std::stable_sort(stuecke.begin(), stuecke.end(),
+                   [](const auto& a, const auto& b) { return a.first > b.first; });
+  std::vector<Ecken> ergebnis;
+  for (auto& stueck : stuecke) ergebnis.push_back(std::move(stueck.second));
+  return ergebnis;
+}
+
+/// Whether p lies in the strip that edge ab, moved to its left by tiefe, has swept.
+bool LiegtImStreifen(const XY& p, const XY& a, const XY& b, double tiefe) {
+  const XY weg = lintavo::Differenz(b, a);
+  const double laenge = lintavo::Betrag(weg);
+  const XY zuP = lintavo::Differenz(p, a);
+  const double u = lintavo::Skalarprodukt(weg, zuP) / laenge;
+  const double v = lintavo::Kreuzprodukt(weg, zuP) / laenge;
+  const double rand = lintavo::kBereinigenGrob;
+  return u > rand && u < laenge - rand && v > rand && v < tiefe - rand;
+}
+
+/// A piece that turned inside out twice winds the right way again, but it lies where the
+/// sides have swept over it.
+bool IstUeberstrichen(const Ecken& stueck, const GEOM2_Polygon& polygon, const double* abstaende,
+                      int umlauf) {
+  for (int i = 0; i < polygon.GetAnzahl(); ++i) {
+    const double tiefe = -umlauf * abstaende[i];
+    if (!(tiefe > 0.0)) continue;
+    XY a;
+    XY b;
+    polygon.GetKante(i, a, b);
+    if (umlauf < 0) std::swap(a, b);
+    for (const Ecke& ecke : stueck) {
+      if (LiegtImStreifen(ecke.ort, a, b, tiefe)) return true;
+    }
+  }
+  return false;
+}
+
+bool SindBrauchbar(const Ecken& ecken) {
+  return std::all_of(ecken.begin(), ecken.end(),
+                     [](const Ecke& ecke) { return lintavo::IstBrauchbar(ecke.ort); });
+}
+
+/// Drops the sides that the offset turned round, and cuts off what loops remain.
+Ecken Entschleifen(const Ecken& roh, const GEOM2_Polygon& polygon, const double* abstaende) {
+  if (roh.size() < 3) return {};
+  const int umlauf = polygon.GetFlaeche() < 0.0 ? -1 : 1;
+  const lintavo::GeschlosseneKette kette =
+      lintavo::VerschwundeneSeitenLoeschen(Seiten(polygon, abstaende, roh), Orte(roh), umlauf);
+  Ecken ecken;
+  ecken.reserve(kette.ecken.size());
+  for (const lintavo::Kettenecke& ecke : kette.ecken) {
+    ecken.push_back({ecke.punkt, roh[ecke.seite].quelle});
+  }
+  if (ecken.empty() || !SindBrauchbar(ecken)) return {};
+  if (!kette.gedreht && lintavo::IstEinfach(Orte(ecken))) return ecken;
+
+  if (umlauf < 0) SeitenUmkehren(ecken);
+  for (Ecken& stueck : SchleifenAbschneiden(ecken)) {
+    if (IstUeberstrichen(stueck, polygon, abstaende, umlauf)) continue;
+    if (umlauf < 0) SeitenUmkehren(stueck);
+    return std::move(stueck);
+  }
+  return {};
+}
+
+GEOM2_Polygon AlsPolygon(const Ecken& ecken, const GEOM2_Polygon& quelle) {
+  GEOM2_Polygon polygon;
+  for (const Ecke& ecke : ecken) {
+    const GEOM2_Eckpunkt& alt = quelle.GetEckpunkt(ecke.quelle);
+    polygon.AddPunkt(ecke.ort.x, ecke.ort.y, 0.0, alt.dWert2, alt.Attribut);
+  }
+  return polygon;
+}
+
+/// The vertices of a polygon as a ring without loops; empty when nothing is left.
+Ecken OhneSchleifen(const GEOM2_Polygon& polygon) {
+  Ecken ecken;
+  for (int i = 0; i < polygon.GetAnzahl(); ++i) {
+    ecken.push_back({lintavo::Ort(polygon.GetEckpunkt(i)), i});
+  }
+  if (!SindBrauchbar(ecken)) return {};
+  if (lintavo::IstEinfach(Orte(ecken))) return ecken;
+  const bool rueckwaerts = polygon.GetFlaeche() < 0.0;
+  if (rueckwaerts) SeitenUmkehren(ecken);
+  std::vector<Ecken> stuecke = SchleifenAbschneiden(ecken);
+  if (stuecke.empty()) return {};
+  if (rueckwaerts) SeitenUmkehren(stuecke.front());
+  return std::move(stuecke.front());
+}
+
+}  // namespace
+
+bool GEOM2_Polygon::Bereinigen(double tol) {
+  return Bereinigen(tol, true);
+}
+
+bool GEOM2_Polygon::Bereinigen(double tol, bool schleifen) {
+  if (GetAnzahl() < 2) return false;
+  const GEOM2_Polygon quelle =
+      schleifen ? AlsPolygon(OhneSchleifen(*this), *this) : std::move(*this);
+  Clear();
+  std::vector<XY> orte;
+  for (int i = 0; i < quelle.GetAnzahl(); ++i) orte.push_back(lintavo::Ort(quelle.GetEckpunkt(i)));
+  const std::vector<double> tolLinie(orte.size(), tol);
+  for (const std::size_t i : lintavo::NoetigeEcken(orte, tolLinie, tol)) {
+    const GEOM2_Eckpunkt& ecke = quelle.GetEckpunkt(static_cast<int>(i));
+    AddPunkt(ecke.x, ecke.y, 0.0, ecke.dWert2, ecke.Attribut);
+  }
+  return GetAnzahl() >= 3;
+}
+
+void GEOM2_Polygon::ParallelPolygon(double d, GEOM2_Polygon& ergebnis) const {
+  const std::vector<double> abstaende(ecken_.size(), d);
+  GEOM2_Polygon neu;
+  if (ParallelPolygon(abstaende.data(), neu, true)) ergebnis = std::move(neu);
+}
+
+bool GEOM2_Polygon::ParallelPolygon(const double* abstaende, GEOM2_Polygon& ergebnis,
+                                    bool bereinigen) const {
+  Ecken ecken = EckenVerschieben(*this, abstaende);
+  if (bereinigen) ecken = Entschleifen(ecken, *this, abstaende);
+  GEOM2_Polygon neu = AlsPolygon(ecken, *this);
+  if (bereinigen) neu.Bereinigen(kNullLaenge, false);
+  ergebnis.Clear();
+  if (neu.GetAnzahl() < 3) return false;
+  ergebnis = std::move(neu);
+  return true;
+}

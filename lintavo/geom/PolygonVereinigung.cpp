@@ -1,0 +1,185 @@
+// The union of outlines: catch, unite in whole numbers, put back, thin out.
+#include "lintavo/geom/PolygonVereinigung.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "lintavo/geom/Fangen_intern.h"
+#include "lintavo/geom/Flaechenrechnung_intern.h"
+#include "lintavo/geom/Ring_intern.h"
+#include "lintavo/geom/Toleranzen.h"
+#include "lintavo/geom/Vektor_intern.h"
+
+namespace lintavo {
+namespace {
+
+/// Steps of the whole-number grid per tolerance.
+constexpr double kSchritteJeToleranz = 64.0;
+/// Areas that differ by less than this share are equal: the earlier shape decides.
+constexpr double kGleicheFlaeche = 1e-9;
+
+/// The shapes taken apart: all vertices in a row, and per shape its counter-clockwise
+/// ring and, beside it, the vertex at which each ring edge starts as handed in.
+struct Formen {
+  std::vector<Formecke> ecken;
+  std::vector<const GEOM2_Eckpunkt*> quellen;
+  std::vector<std::vector<std::size_t>> ringe;
+  std::vector<std::vector<std::size_t>> kanten;
+};
+
+void Anhaengen(const GEOM2_Polygon& polygon, Formen& formen) {
+  const std::size_t n = static_cast<std::size_t>(polygon.GetAnzahl());
+  const std::size_t erste = formen.ecken.size();
+  for (int i = 0; i < polygon.GetAnzahl(); ++i) {
+    const GEOM2_Eckpunkt& ecke = polygon.GetEckpunkt(i);
+    formen.ecken.push_back({Ort(ecke), formen.ringe.size()});
+    formen.quellen.push_back(&ecke);
+  }
+  std::vector<std::size_t> ring(n);
+  std::vector<std::size_t> kanten(n);
+  const bool rueckwaerts = polygon.GetFlaeche() < 0.0;
+  for (std::size_t k = 0; k < n; ++k) {
+    ring[k] = erste + (rueckwaerts ? (n - k) % n : k);
+    kanten[k] = rueckwaerts ? erste + n - 1 - k : ring[k];
+  }
+  formen.ringe.push_back(std::move(ring));
+  formen.kanten.push_back(std::move(kanten));
+}
+
+void BoxFuellen(const std::vector<GEOM2_Polygon>& polygone, double box[4]) {
+  box[0] = box[1] = kLeereBox;
+  box[2] = box[3] = -kLeereBox;
+  for (const GEOM2_Polygon& polygon : polygone) {
+    XY min;
+    XY max;
+    polygon.GetMinMax(min, max);
+    box[0] = std::min(box[0], min.x);
+    box[1] = std::min(box[1], min.y);
+    box[2] = std::max(box[2], max.x);
+    box[3] = std::max(box[3], max.y);
+  }
+}
+
+bool SindBrauchbar(const std::vector<Formecke>& ecken) {
+  return std::all_of(ecken.begin(), ecken.end(),
+                     [](const Formecke& ecke) { return IstBrauchbar(ecke.ort); });
+}
+
+/// Unites the caught shapes and makes a polygon of the largest outline.
+class Vereinigung {
+ public:
+  Vereinigung(const Formen& formen, const Fangergebnis& fang, double tol)
+      : formen_(formen), fang_(fang), tol_(tol) {
+    for (const std::vector<Fangecke>& ring : fang.ringe) {
+      ecken_.insert(ecken_.end(), ring.begin(), ring.end());
+    }
+  }
+
+  GEOM2_Polygon Umriss() const {
+    std::vector<Flaechenring> ringe;
+    for (const std::vector<Fangecke>& gefangen : fang_.ringe) {
+      if (gefangen.empty()) continue;
+      Flaechenring ring;
+      ring.reserve(gefangen.size());
+      for (const Fangecke& ecke : gefangen) {
+        ring.push_back({formen_.ecken[ecke.ort].ort, ecke.kante});
+      }
+      ringe.push_back(std::move(ring));
+    }
+    const std::vector<Ergebnisring> gefunden = FlaecheVereinigen(ringe, tol_ / kSchritteJeToleranz);
+    return AlsPolygon(Groesster(gefunden));
+  }
+
+ private:
+  std::size_t Platz(const Ergebnisecke& ecke) const {
+    return ecke.ecke == kKeine ? kKeine : ecken_[ecke.ecke].ort;
+  }
+
+  std::size_t ErsterPlatz(const Ergebnisring& ring) const {
+    std::size_t erster = kKeine;
+    for (const Ergebnisecke& ecke : ring) erster = std::min(erster, Platz(ecke));
+    return erster;
+  }
+
+  Ergebnisring Groesster(const std::vector<Ergebnisring>& ringe) const {
+    const Ergebnisring* groesster = nullptr;
+    double flaeche = 0.0;
+    for (const Ergebnisring& ring : ringe) {
+      const double neu = Ringflaeche(Orte(ring));
+      const bool gleich = std::fabs(neu - flaeche) <= kGleicheFlaeche * flaeche;
+      if (groesster == nullptr ||
+          (gleich ? ErsterPlatz(ring) < ErsterPlatz(*groesster) : neu > flaeche)) {
+        groesster = &ring;
+        flaeche = neu;
+      }
+    }
+    return groesster != nullptr ? *groesster : Ergebnisring{};
+  }
+
+  static std::vector<XY> Orte(const Ergebnisring& ring) {
+    std::vector<XY> orte;
+    orte.reserve(ring.size());
+    for (const Ergebnisecke& ecke : ring) orte.push_back(ecke.ort);
+    return orte;
+  }
+
+  /// Where shapes meet, and where edges cross, a corner may stray from a straight line
+  /// by the tolerance; a shape's own corner is real.
+  double TolLinie(const Ergebnisecke& ecke) const {
+    const std::size_t platz = Platz(ecke);
+    return platz == kKeine || fang_.treffpunkt[platz] ? tol_ : kNullLaenge;
+  }
+
+  GEOM2_Polygon AlsPolygon(const Ergebnisring& ring) const {
+    std::vector<double> tolLinie;
+    tolLinie.reserve(ring.size());
+    for (const Ergebnisecke& ecke : ring) tolLinie.push_back(TolLinie(ecke));
+    std::vector<std::size_t> noetig = NoetigeEcken(Orte(ring), tolLinie, kNullLaenge);
+    const auto erste = std::min_element(
+        noetig.begin(), noetig.end(),
+        [&](std::size_t i, std::size_t j) { return Platz(ring[i]) < Platz(ring[j]); });
+    std::rotate(noetig.begin(), erste, noetig.end());
+    GEOM2_Polygon polygon;
+    for (const std::size_t i : noetig) polygon.AddPunkt(Eckpunkt(ring[i]));
+    return polygon;
+  }
+
+  GEOM2_Eckpunkt Eckpunkt(const Ergebnisecke& ecke) const {
+    const GEOM2_Eckpunkt& kante = *formen_.quellen[ecke.kante];
+    GEOM2_Eckpunkt neu = kante;
+    if (ecke.ecke != kKeine) {
+      const Fangecke& quelle = ecken_[ecke.ecke];
+      neu = *formen_.quellen[quelle.eingefuegt ? quelle.ort : quelle.ecke];
+    }
+    neu.x = ecke.ort.x;
+    neu.y = ecke.ort.y;
+    neu.Attribut = kante.Attribut;
+    return neu;
+  }
+
+  const Formen& formen_;
+  const Fangergebnis& fang_;
+  double tol_;
+  std::vector<Fangecke> ecken_;  // the corners of all rings in a row
+};
+
+}  // namespace
+}  // namespace lintavo
+
+bool bPolygoneAddieren(const std::vector<GEOM2_Polygon>& polygone, GEOM2_Polygon& umriss,
+                       double tol, double box[4]) {
+  using namespace lintavo;
+  BoxFuellen(polygone, box);
+  Formen formen;
+  for (const GEOM2_Polygon& polygon : polygone) {
+    if (polygon.GetAnzahl() >= 3) Anhaengen(polygon, formen);
+  }
+  GEOM2_Polygon ergebnis;
+  if (!formen.ringe.empty() && SindBrauchbar(formen.ecken)) {
+    const double toleranz = tol >= kNullLaenge ? tol : kNullLaenge;
+    const Fangergebnis fang = FormenFangen(formen.ecken, formen.ringe, formen.kanten, toleranz);
+    ergebnis = Vereinigung(formen, fang, toleranz).Umriss();
+  }
+  umriss = std::move(ergebnis);
+  return umriss.GetAnzahl() >= 3;
+}

@@ -1,0 +1,30 @@
+// Rings of bare points: which corners are needed, and whether a ring is free of
+// loops. Shared by clean-up, offset and union.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "lintavo/geom/XY.h"
+
+namespace lintavo {
+
+/// Indices, ascending, of the corners that a ring cannot do without; empty when fewer
+/// than 3 remain.
+///
+/// A corner goes when it coincides with the one after it within tolDeckung, when it is
+/// the tip of a fold, or when it and every corner that went beside it lie within their
+/// tolerances of the line of the remaining neighbours, so a flat arc of many short
+/// sides is never worn away step by step.
+///
+/// @param tolLinie  one tolerance per corner.
+std::vector<std::size_t> NoetigeEcken(const std::vector<XY>& ring,
+                                      const std::vector<double>& tolLinie, double tolDeckung);
+
+/// True when no two edges of the ring touch except neighbours in their common corner.
+bool IstEinfach(const std::vector<XY>& ring);
+
+/// Signed area, positive for counter-clockwise order.
+double Ringflaeche(const std::vector<XY>& ring);
+
+}  // namespace lintavo

@@ -1,0 +1,108 @@
+// Cutting a segment at the outline of a polygon.
+#include "lintavo/geom/Streckenteilung_intern.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "lintavo/geom/Toleranzen.h"
+#include "lintavo/geom/Vektor_intern.h"
+
+namespace lintavo {
+namespace {
+
+/// The polygon seen from the segment: u along it from its start, v to its left.
+class Sicht {
+ public:
+  Sicht(const XY& a, const XY& b, const GEOM2_Polygon& polygon) : laenge_(Abstand(a, b)) {
+    const XY richtung = Mal(Differenz(b, a), 1.0 / laenge_);
+    for (int i = 0; i < polygon.GetAnzahl(); ++i) {
+      const XY p = Differenz(Ort(polygon.GetEckpunkt(i)), a);
+      ecken_.push_back({Skalarprodukt(richtung, p), Kreuzprodukt(richtung, p)});
+    }
+  }
+
+  double Laenge() const { return laenge_; }
+
+  /// Where the segment meets the outline, ends included, in order.
+  std::vector<double> Schnitte(double tol) const {
+    std::vector<double> schnitte{0.0, laenge_};
+    const auto merken = [&](double u) {
+      if (u > tol && u < laenge_ - tol) schnitte.push_back(u);
+    };
+    for (std::size_t i = 0; i < ecken_.size(); ++i) {
+      const XY& p = ecken_[i];
+      const XY& q = Danach(i);
+      if (std::fabs(p.y) <= tol) {
+        merken(p.x);
+      } else if (std::fabs(q.y) > tol && (p.y < 0.0) != (q.y < 0.0)) {
+        merken(p.x + (q.x - p.x) * (p.y / (p.y - q.y)));
+      }
+    }
+    std::sort(schnitte.begin(), schnitte.end());
+    return schnitte;
+  }
+
+  /// Whether the point at u lies inside or within tol of an edge.
+  bool IstInnen(double u, double tol) const {
+    bool innen = false;
+    for (std::size_t i = 0; i < ecken_.size(); ++i) {
+      const XY p{ecken_[i].x - u, ecken_[i].y};
+      const XY q{Danach(i).x - u, Danach(i).y};
+      if (AbstandVomUrsprung(p, q) <= tol) return true;
+      if ((p.y < 0.0) != (q.y < 0.0)) {
+        const double rechts = p.x + (q.x - p.x) * (p.y / (p.y - q.y));
+        if (rechts > 0.0) innen = !innen;
+      }
+    }
+    return innen;
+  }
+
+ private:
+  const XY& Danach(std::size_t i) const { return ecken_[i + 1 == ecken_.size() ? 0 : i + 1]; }
+
+  static double AbstandVomUrsprung(const XY& p, const XY& q) {
+    const XY weg = Differenz(q, p);
+    const double q2 = Skalarprodukt(weg, weg);
+    const double t = q2 > 0.0 ? std::clamp(-Skalarprodukt(p, weg) / q2, 0.0, 1.0) : 0.0;
+    return Betrag(Zwischenpunkt(p, q, t));
+  }
+
+  double laenge_;
+  std::vector<XY> ecken_;
+};
+
+bool IstBrauchbar(const GEOM2_Polygon& polygon) {
+  if (polygon.GetAnzahl() < 3) return false;
+  for (int i = 0; i < polygon.GetAnzahl(); ++i) {
+    if (!lintavo::IstBrauchbar(Ort(polygon.GetEckpunkt(i)))) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+std::vector<Streckenstueck> StreckeTeilen(const XY& a, const XY& b, const GEOM2_Polygon& polygon,
+                                          double tol) {
+  if (!lintavo::IstBrauchbar(a) || !lintavo::IstBrauchbar(b)) return {};
+  const double laenge = Abstand(a, b);
+  if (laenge < tol) return {};
+  if (!IstBrauchbar(polygon)) return {{0.0, laenge, false}};
+
+  const Sicht sicht(a, b, polygon);
+  std::vector<Streckenstueck> stuecke;
+  double von = 0.0;
+  for (const double bis : sicht.Schnitte(tol)) {
+    if (bis - von <= tol && bis < laenge) continue;
+    if (bis <= von) continue;
+    const bool innen = sicht.IstInnen(von + (bis - von) / 2, tol);
+    if (!stuecke.empty() && stuecke.back().innen == innen) {
+      stuecke.back().bis = bis;
+    } else {
+      stuecke.push_back({von, bis, innen});
+    }
+    von = bis;
+  }
+  return stuecke;
+}
+
+}  // namespace lintavo

@@ -1,0 +1,26 @@
+// Cutting a segment at the outline of a polygon: where on its way it is inside.
+#pragma once
+
+#include <vector>
+
+#include "lintavo/geom/GEOM2_Polygon.h"
+#include "lintavo/geom/XY.h"
+
+namespace lintavo {
+
+/// A stretch of a segment, by the lengths from its start.
+struct Streckenstueck {
+  double von = 0.0;
+  double bis = 0.0;
+  bool innen = false;
+};
+
+/// Cuts the segment ab into stretches that lie inside the polygon and stretches that lie
+/// outside, in order and taking turns; together they are the whole segment. Points within
+/// tol of an edge count as inside, and a cut within tol of an end of the segment is that
+/// end, exactly. A segment shorter than tol, not finite or beyond kGroessteKoordinate
+/// gives no stretches; a polygon that is no area has nothing inside.
+std::vector<Streckenstueck> StreckeTeilen(const XY& a, const XY& b, const GEOM2_Polygon& polygon,
+                                          double tol);
+
+}  // namespace lintavo
