@@ -2,12 +2,12 @@
 #include "lintavo/model/CMFenster.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
-#include "lintavo/geom/PolygonVereinigung.h"
+#include "lintavo/geom/Seitendeckung.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/ini/CIniFile.h"
-#include "lintavo/platform/Numbers_intern.h"
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/CMFensterSatzBogen.h"
 #include "lintavo/sash/CMFensterSatzEllipse.h"
