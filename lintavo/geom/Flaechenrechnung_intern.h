@@ -39,6 +39,10 @@ using Ergebnisring = std::vector<Ergebnisecke>;
 std::vector<Ergebnisring> FlaecheVereinigen(const std::vector<Flaechenring>& ringe,
                                             double aufloesung);
 
+/// The same for the first ring less the places that the others wind round.
+std::vector<Ergebnisring> FlaecheAbziehen(const std::vector<Flaechenring>& ringe,
+                                          double aufloesung);
+
 /// The width of the widest piece that the insides of two rings, either way round, have in
 /// common: twice its area over its perimeter; 0 when there is none.
 double GemeinsameBreite(const std::vector<XY>& a, const std::vector<XY>& b, double aufloesung);

@@ -21,8 +21,23 @@ namespace lintavo {
 std::vector<std::size_t> NoetigeEcken(const std::vector<XY>& ring,
                                       const std::vector<double>& tolLinie, double tolDeckung);
 
+/// An edge between two numbered places.
+struct Verbindung {
+  XY a;
+  XY b;
+  std::size_t von = 0;
+  std::size_t nach = 0;
+};
+
+/// True when no two edges have a point in common except an end place with the same number.
+bool BeruehrenSichNurInOrten(const std::vector<Verbindung>& kanten);
+
 /// True when no two edges of the ring touch except neighbours in their common corner.
 bool IstEinfach(const std::vector<XY>& ring);
+
+/// Splits a closed walk over numbered places wherever it comes back to a place: each part
+/// holds indices into orte. Parts with fewer than 3 corners are left out.
+std::vector<std::vector<std::size_t>> AnBeruehrungenTeilen(const std::vector<std::size_t>& orte);
 
 /// Signed area, positive for counter-clockwise order.
 double Ringflaeche(const std::vector<XY>& ring);
