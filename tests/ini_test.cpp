@@ -15,8 +15,10 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
+// A file of the running test alone, since tests run side by side.
 std::string FilePath() {
-  return testing::TempDir() + "lintavo_ini_test.ini";
+  const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+  return testing::TempDir() + "lintavo_" + test->test_suite_name() + test->name() + ".ini";
 }
 
 // Reads a text through a file into a document.
@@ -110,6 +112,8 @@ TEST(IniRead, IsLinearInFileAndLookups) {
   constexpr int kKeys = 15;
   std::vector<CString> sections;
   std::vector<CString> keys;
+  sections.reserve(kSections);
+  keys.reserve(kKeys);
   for (int s = 0; s < kSections; ++s) sections.push_back(lintavo::NumberedName("Fluegel", s));
   for (int k = 0; k < kKeys; ++k) keys.push_back(lintavo::NumberedName("R", k));
   std::ostringstream bytes;

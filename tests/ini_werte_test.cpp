@@ -1,4 +1,5 @@
 // Typed values of the document: numbers, flags, lists and fonts.
+#include <bit>
 #include <clocale>
 #include <cmath>
 #include <cstdint>
@@ -38,7 +39,8 @@ std::string Formatted(double value) {
 }
 
 bool SameBits(double a, double b) {
-  return (std::isnan(a) && std::isnan(b)) || std::memcmp(&a, &b, sizeof a) == 0;
+  return (std::isnan(a) && std::isnan(b)) ||
+         std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
 }
 
 TEST(IniNumbers, AreReadByTheirPrefix) {
@@ -120,8 +122,7 @@ TEST(IniNumbers, ComeBackRoundedToSixDecimals) {
   std::mt19937_64 random(seed);
   for (int i = 0; i < 20000; ++i) {
     const std::uint64_t bits = random();
-    double value = 0.0;
-    std::memcpy(&value, &bits, sizeof value);
+    double value = std::bit_cast<double>(bits);
     if (i % 2 == 0) value = static_cast<double>(static_cast<std::int64_t>(bits)) * 1e-12;
     char rounded[400];
     std::snprintf(rounded, sizeof rounded, "%f", value);

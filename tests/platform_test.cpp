@@ -181,12 +181,13 @@ TEST(StringTable, NumbersNames) {
   EXPECT_EQ(key, "Beschlag%d");
 }
 
-// A fresh folder that the working directory is moved into.
+// A fresh folder of the running test alone, with the working directory in it.
 class Paths : public testing::Test {
  protected:
   void SetUp() override {
     before_ = fs::current_path();
-    folder_ = fs::path(testing::TempDir()) / "lintavo_paths";
+    const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+    folder_ = fs::path(testing::TempDir()) / (std::string("lintavo_Paths") + test->name());
     fs::remove_all(folder_);
     fs::create_directories(folder_ / "out");
     fs::current_path(folder_);
