@@ -4,10 +4,9 @@
 // A frame part's link names the first extra part of its side, each extra part
 // the next one; inner and outer ones share the chain. A part lies beside all
 // that stand before it in the chain.
-#include <cmath>
-
 #include "lintavo/geom/Geraden.h"
 #include "lintavo/geom/Toleranzen.h"
+#include "lintavo/geom/Vektor_intern.h"
 #include "lintavo/model/CMException.h"
 #include "lintavo/sash/CMFensterSatz.h"
 
@@ -28,17 +27,14 @@ bool IsZusatzteil(const CMBauteil& part, bool aussen) {
   return aussen ? part.IsZusatzteilAussen() : part.IsZusatzteilInnen();
 }
 
-bool HatLaenge(const GEOM2_Achse& achse) {
-  return achse.dLaenge >= lintavo::kNullLaenge && std::isfinite(achse.dLaenge);
-}
-
 // Axis 0 of a part that has no place: nothing of the part is to be seen.
 void NimmAchse(CMBauteil& part) {
   part.DeleteAchsen();
   part.AddAchse({});
 }
 
-// Lays axis 0 beside a side, at distance d to its right.
+// Lays axis 0 beside a side, at distance d to its right; false also when that
+// is nowhere on a drawing.
 bool LegeNebenSeite(const GEOM2_Polygon& polygon, long side, double d, GEOM2_Achse& achse) {
   XY a;
   XY b;
@@ -49,7 +45,8 @@ bool LegeNebenSeite(const GEOM2_Polygon& polygon, long side, double d, GEOM2_Ach
                       b2.y) != 1) {
     return false;
   }
-  return GEOM2_Polygon::SetAchse(a2, b2, achse) && HatLaenge(achse);
+  return lintavo::IstBrauchbar(a2) && lintavo::IstBrauchbar(b2) &&
+         GEOM2_Polygon::SetAchse(a2, b2, achse);
 }
 
 // Sets a link back when the scope is left, by an exception too.
@@ -112,9 +109,7 @@ bool CMFensterSatz::PlaziereZusatzteil(CMBauteil& part) const {
     for (int i = 0; i < innen.GetAnzahl(); ++i) innen.SetWert2(i, 0.0);
     const double d = GetAbstandZurRahmenInnenSeite(true, part.lSeite) + part.dBreite * kHalb;
     if (!LegeNebenSeite(RahmenPolygon, part.lSeite, -d, achse)) return false;
-    if (!innen.AchseClippen(achse, kSchnittAnteil * part.dBreite) || !HatLaenge(achse)) {
-      return false;
-    }
+    if (!innen.AchseClippen(achse, kSchnittAnteil * part.dBreite)) return false;
   }
   part.DeleteAchsen();
   part.AddAchse(achse);
