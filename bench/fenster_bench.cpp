@@ -1,10 +1,10 @@
 // What a host waits for: reading, fitting, calculating and drawing a window,
 // and how the calculation grows with the number of sashes.
-#include <benchmark/benchmark.h>
-
 #include <cmath>
 #include <stdexcept>
 #include <string>
+
+#include <benchmark/benchmark.h>
 
 #include "lintavo/api/CFeApi.h"
 #include "lintavo/model/CMFenster.h"
@@ -114,16 +114,15 @@ void RasterBerechnen(benchmark::State& state, bool mitPfosten) {
   if (!fenster.Berechne(mitPfosten)) state.SkipWithError("the grid cannot be calculated");
   for (auto _ : state) benchmark::DoNotOptimize(fenster.Berechne(false));
   // Seconds a sash, shown as nanoseconds: what must stay level.
-  state.counters["je_Fluegel"] =
-      benchmark::Counter(static_cast<double>(state.range(0)),
-                         benchmark::Counter::kIsIterationInvariantRate |
-                             benchmark::Counter::kInvert);
+  state.counters["je_Fluegel"] = benchmark::Counter(
+      static_cast<double>(state.range(0)),
+      benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
-#define JE_BEISPIEL(operation)                                                       \
-  BENCHMARK_CAPTURE(operation, drehkipp_einfluegelig, "drehkipp_einfluegelig");      \
+#define JE_BEISPIEL(operation)                                                        \
+  BENCHMARK_CAPTURE(operation, drehkipp_einfluegelig, "drehkipp_einfluegelig");       \
   BENCHMARK_CAPTURE(operation, dreiteilig_mit_oberlicht, "dreiteilig_mit_oberlicht"); \
-  BENCHMARK_CAPTURE(operation, rundbogen_dreiteilig, "rundbogen_dreiteilig");        \
+  BENCHMARK_CAPTURE(operation, rundbogen_dreiteilig, "rundbogen_dreiteilig");         \
   BENCHMARK_CAPTURE(operation, raster_3x3, "raster_3x3")
 
 JE_BEISPIEL(Lesen);
@@ -132,7 +131,19 @@ JE_BEISPIEL(Einpassen);
 JE_BEISPIEL(AlleUmrisse);
 JE_BEISPIEL(GanzerUmlauf);
 
-BENCHMARK_CAPTURE(RasterBerechnen, Fluegel, false)->Arg(1)->Arg(4)->Arg(16)->Arg(64)->Arg(256)->Arg(400);
-BENCHMARK_CAPTURE(RasterBerechnen, mit_Pfosten, true)->Arg(1)->Arg(4)->Arg(16)->Arg(64)->Arg(256)->Arg(400);
+BENCHMARK_CAPTURE(RasterBerechnen, Fluegel, false)
+    ->Arg(1)
+    ->Arg(4)
+    ->Arg(16)
+    ->Arg(64)
+    ->Arg(256)
+    ->Arg(400);
+BENCHMARK_CAPTURE(RasterBerechnen, mit_Pfosten, true)
+    ->Arg(1)
+    ->Arg(4)
+    ->Arg(16)
+    ->Arg(64)
+    ->Arg(256)
+    ->Arg(400);
 
 }  // namespace

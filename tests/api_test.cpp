@@ -1,7 +1,4 @@
 // The façade as a host uses it.
-#include <gtest/gtest.h>
-#include <zlib.h>
-
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
@@ -9,7 +6,11 @@
 #include <iterator>
 #include <numeric>
 
+#include <gtest/gtest.h>
+#include <zlib.h>
+
 #include "lintavo/api/CFeApi.h"
+
 #include "support/Beispiele.h"
 
 namespace lintavo::test {

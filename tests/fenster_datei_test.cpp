@@ -1,12 +1,13 @@
 // The macro file: read = write = read, and what a reader leaves out.
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 
+#include <gtest/gtest.h>
+
 #include "lintavo/ini/CIniFile.h"
 #include "lintavo/model/CMFenster.h"
+
 #include "support/Beispiele.h"
 
 namespace lintavo::test {
@@ -106,7 +107,8 @@ TEST(Makrodatei, AtMost49SashesAreRead) {
 TEST(Makrodatei, FourNumbersMakeACornerPointAndThreeDoNot) {
   CIniFile document = Dokument(
       "[Masz1]\nName=B\nLaenge=80\nRichtung=0\nKnoten1=3,4,120.5,80\nKnoten2=3,4,120.5\n"
-      "Knoten3=1,2,3,4,5\n" + kRahmen);
+      "Knoten3=1,2,3,4,5\n" +
+      kRahmen);
   CMFenster fenster;
   ASSERT_TRUE(fenster.ReadFromBuffer(document));
   const CMZusatzMasz& masz = *fenster.GetZusatzMaszPtr(0);

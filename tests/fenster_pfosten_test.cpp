@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "lintavo/model/CMFenster.h"
+
 #include "support/Beispiele.h"
 
 namespace lintavo::test {

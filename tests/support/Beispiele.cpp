@@ -11,8 +11,7 @@ namespace lintavo::test {
 const std::vector<std::string>& BeispielNamen() {
   static const std::vector<std::string> names = [] {
     std::vector<std::string> found;
-    for (const auto& entry :
-         std::filesystem::directory_iterator(LINTAVO_EXAMPLES_DIR "/windows")) {
+    for (const auto& entry : std::filesystem::directory_iterator(LINTAVO_EXAMPLES_DIR "/windows")) {
       if (entry.path().extension() == ".aqz") found.push_back(entry.path().filename().string());
     }
     std::sort(found.begin(), found.end());

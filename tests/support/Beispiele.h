@@ -1,10 +1,10 @@
 // The example windows as test input, and windows built step by step.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 #include "lintavo/model/CMFenster.h"
 
