@@ -161,6 +161,22 @@ TEST_F(Tool, WindowsThatCannotBeCalculatedAreRefused) {
   EXPECT_FALSE(fs::exists(Path("a.svg")));
 }
 
+TEST_F(Tool, OpeningsThatAWindowCannotTakeAreRefused) {
+  const std::string target = Path("zu_klein.aqz");
+  ExpectError("fit '" + kFanlight + "' 20 20 -o '" + target + "'",
+              "dreiteilig_mit_oberlicht.aqz: Die L\xc3\xa4nge des Zusatzma\xc3\x9f"
+              "es");
+  EXPECT_FALSE(fs::exists(target));
+
+  std::string macro = ReadBytes(kFanlight);
+  for (std::size_t i = macro.find("[Masz"); i != std::string::npos; i = macro.find("[Masz", i)) {
+    macro.replace(i, 5, "[Ohne");
+  }
+  std::ofstream(Path("ohne_masze.aqz"), std::ios::binary) << macro;
+  ExpectError("draw '" + Path("ohne_masze.aqz") + "' --fit 200x200 -o '" + Path("a.svg") + "'",
+              "no dimensions for its overall width and height");
+}
+
 TEST_F(Tool, OutputThatCannotBeWrittenIsAnError) {
   const std::string line = "'" LINTAVO_TOOL "' show '" + kFanlight + "' >/dev/full 2>/dev/null";
   const int raw = std::system(line.c_str());
