@@ -12,24 +12,12 @@
 #include "lintavo/api/CFeApi.h"
 
 #include "support/Beispiele.h"
+#include "support/Ordner.h"
 
 namespace lintavo::test {
 namespace {
 
 using Parameter = CFeApiWandOeffnungsParameter;
-
-class Ordner {
- public:
-  Ordner() : path_(std::filesystem::temp_directory_path() / "lintavo_api_test") {
-    std::filesystem::remove_all(path_);
-    std::filesystem::create_directories(path_);
-  }
-  ~Ordner() { std::filesystem::remove_all(path_); }
-  std::string operator/(const std::string& name) const { return (path_ / name).string(); }
-
- private:
-  std::filesystem::path path_;
-};
 
 void Schreibe(const std::string& path, const std::string& bytes) {
   std::filesystem::create_directories(std::filesystem::path(path).parent_path());

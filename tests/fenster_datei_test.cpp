@@ -9,6 +9,7 @@
 #include "lintavo/model/CMFenster.h"
 
 #include "support/Beispiele.h"
+#include "support/Ordner.h"
 
 namespace lintavo::test {
 namespace {
@@ -120,13 +121,13 @@ TEST(Makrodatei, FourNumbersMakeACornerPointAndThreeDoNot) {
 }
 
 TEST(Makrodatei, AMissingFrameStillCountsAsRead) {
-  const auto path = std::filesystem::temp_directory_path() / "lintavo_ohne_rahmen.aqz";
+  const Ordner ordner;
+  const std::string path = ordner / "ohne_rahmen.aqz";
   std::ofstream(path) << "[Allgemeines]\nName=Ohne Rahmen\n";
   CMFenster fenster;
-  EXPECT_TRUE(fenster.ReadFromFile(path.string().c_str()));
+  EXPECT_TRUE(fenster.ReadFromFile(path.c_str()));
   EXPECT_EQ(fenster.GetName(), "Ohne Rahmen");
   EXPECT_FALSE(fenster.IsBitmap());
-  std::filesystem::remove(path);
 }
 
 TEST(Makrodatei, AnUnreadablePathLeavesAnEmptyWindowWithMessage28) {
@@ -141,16 +142,15 @@ TEST(Makrodatei, AnUnreadablePathLeavesAnEmptyWindowWithMessage28) {
 }
 
 TEST(Makrodatei, TheParameterFormStandsBesideTheFile) {
-  const auto folder = std::filesystem::temp_directory_path() / "Lintavo_Formular";
-  std::filesystem::create_directories(folder);
+  const Ordner ordner;
   CMFenster fenster = Beispiel("zweifluegelig_mit_pfosten.aqz");
   CMZusatzMasz repeated = *fenster.GetZusatzMaszPtr(0);
   repeated.dLaenge = 1.0;
   fenster.AddZusatzMasz(repeated);
-  EXPECT_TRUE(fenster.SaveToFile(true, (folder / "Fenster1.aqz").string().c_str()));
-  EXPECT_TRUE(std::filesystem::exists(folder / "Fenster1.aqz"));
+  EXPECT_TRUE(fenster.SaveToFile(true, (ordner / "Fenster1.aqz").c_str()));
+  EXPECT_TRUE(std::filesystem::exists(ordner / "Fenster1.aqz"));
   CIniFile form;
-  ASSERT_TRUE(form.Read((folder / "fenster1.txt").string().c_str()));
+  ASSERT_TRUE(form.Read((ordner / "fenster1.txt").c_str()));
   double breite = 0.0;
   EXPECT_TRUE(form.GetDouble("Masze", "Breite", breite));
   // Ten times the first dimension of that name.
@@ -160,7 +160,6 @@ TEST(Makrodatei, TheParameterFormStandsBesideTheFile) {
   EXPECT_EQ(sample, "00,1,2,1,2");
   EXPECT_FALSE(fenster.SaveToFile(false, "/gibt/es/nicht/f.aqz"));
   EXPECT_FALSE(fenster.SaveToFile(""));
-  std::filesystem::remove_all(folder);
 }
 
 TEST(Makrodatei, SavingDropsUnusedAxesAndBringsTheFirstUsedOneToZero) {
