@@ -1,9 +1,9 @@
 #include "support/Ordner.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <random>
+
+#include <gtest/gtest.h>
 
 namespace lintavo::test {
 
