@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "lintavo/api/CFeApi.h"
-#include "lintavo/api/Polygon_intern.h"
+#include "lintavo/api/Records_intern.h"
 #include "lintavo/api/Schutz_intern.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/model/CMFenster.h"
