@@ -29,4 +29,8 @@
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/CMBeschlag.h"
 #include "lintavo/sash/CMFensterSatz.h"
+#include "lintavo/sash/CMFensterSatzBogen.h"
+#include "lintavo/sash/CMFensterSatzEllipse.h"
+#include "lintavo/sash/CMFensterSatzHalbBogen.h"
+#include "lintavo/sash/CMFensterSatzRechteck.h"
 #include "lintavo/sash/CMFuellung.h"

@@ -104,8 +104,8 @@ class LINTAVO_API CFeApi {
 
   // --- the frame ----------------------------------------------------------
 
-  double GetRahmenBreite() const;  ///< width of the first frame part, 0.0 without one
-  double GetRahmenDicke() const;   ///< thickness of the first frame part, 0.0 without one
+  double GetRahmenBreite() const;        ///< width of the first frame part, 0.0 without one
+  double GetRahmenDicke() const;         ///< thickness of the first frame part, 0.0 without one
   int SetRahmenBreite(double width);     ///< all frame parts; width at least 1e-6
   int SetRahmenDicke(double thickness);  ///< all frame parts; thickness at least 1e-6
   /// Number of frame components of kind 1 or 2 that have a width and a length.
