@@ -1,12 +1,16 @@
-// Walking round groups of touching shapes.
+// Cutting edges where they cross, and walking round groups of shapes.
 #include "lintavo/geom/Aussenlauf_intern.h"
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <numeric>
+#include <tuple>
 #include <utility>
 
 #include "lintavo/geom/Ring_intern.h"
+#include "lintavo/geom/Schnittkette_intern.h"
+#include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
 
 namespace lintavo {
@@ -20,7 +24,7 @@ std::pair<std::size_t, std::size_t> Enden(const Umrisskante& k) {
 /// prevails, or none.
 void Aufheben(std::vector<Umrisskante>& kanten) {
   std::sort(kanten.begin(), kanten.end(), [](const Umrisskante& s, const Umrisskante& t) {
-    return std::make_pair(Enden(s), s.ecke) < std::make_pair(Enden(t), t.ecke);
+    return std::make_pair(Enden(s), s.kante) < std::make_pair(Enden(t), t.kante);
   });
   std::size_t bleibt = 0;
   for (std::size_t i = 0; i < kanten.size();) {
@@ -37,6 +41,140 @@ void Aufheben(std::vector<Umrisskante>& kanten) {
     i = ende;
   }
   kanten.resize(bleibt);
+}
+
+/// The places where edges cross, found again when several edges cross in one of them.
+class Kreuzungsorte {
+ public:
+  explicit Kreuzungsorte(std::vector<XY>& orte) : orte_(orte) {}
+
+  std::size_t Ort(const XY& p) {
+    const Zelle mitte{std::floor(p.x / kNullLaenge), std::floor(p.y / kNullLaenge)};
+    for (double dx = -1.0; dx <= 1.0; ++dx) {
+      for (double dy = -1.0; dy <= 1.0; ++dy) {
+        const auto treffer = zellen_.find({mitte.first + dx, mitte.second + dy});
+        if (treffer == zellen_.end()) continue;
+        if (Abstand(orte_[treffer->second], p) <= kNullLaenge) return treffer->second;
+      }
+    }
+    orte_.push_back(p);
+    zellen_.emplace(mitte, orte_.size() - 1);
+    return orte_.size() - 1;
+  }
+
+ private:
+  using Zelle = std::pair<double, double>;
+  std::vector<XY>& orte_;
+  std::map<Zelle, std::size_t> zellen_;
+};
+
+/// Cutting more crossings than this one by one takes too long.
+constexpr std::size_t kMaxPaare = 20'000;
+
+/// A place on an edge, at t times its length.
+struct Schnitt {
+  std::size_t kante;
+  double t;
+  std::size_t ort;
+};
+
+/// Cuts edges where others cross or touch them.
+class Teilung {
+ public:
+  Teilung(std::vector<XY>& orte, std::vector<Umrisskante>& kanten)
+      : orte_(orte), kanten_(kanten), kreuzungsorte_(orte) {}
+
+  enum class Ausgang { kSauber, kGeteilt, kUnmoeglich };
+
+  Ausgang Runde() {
+    std::vector<Verbindung> verbindungen;
+    verbindungen.reserve(kanten_.size());
+    for (const Umrisskante& k : kanten_) {
+      verbindungen.push_back({orte_[k.von], orte_[k.nach], k.von, k.nach});
+    }
+    const auto paare = Beruehrungen(verbindungen, kMaxPaare);
+    if (paare.empty()) return Ausgang::kSauber;
+    if (paare.size() > kMaxPaare) return Ausgang::kUnmoeglich;
+    schnitte_.clear();
+    for (const auto& [i, j] : paare) {
+      if (!Schneiden(i, j)) return Ausgang::kUnmoeglich;
+    }
+    if (schnitte_.empty()) return Ausgang::kUnmoeglich;
+    Teilen();
+    return Ausgang::kGeteilt;
+  }
+
+ private:
+  /// Ends that lie on the other edge are put onto it; failing that the edges cross.
+  bool Schneiden(std::size_t i, std::size_t j) {
+    const std::size_t vorher = schnitte_.size();
+    for (const std::size_t ort : {kanten_[i].von, kanten_[i].nach}) Auflegen(j, ort);
+    for (const std::size_t ort : {kanten_[j].von, kanten_[j].nach}) Auflegen(i, ort);
+    if (schnitte_.size() > vorher) return true;
+    if (kanten_[i].form == kanten_[j].form) return false;
+    XY p;
+    if (!GeradenSchneiden(Gerade_(i), Gerade_(j), p)) return false;
+    const std::size_t ort = kreuzungsorte_.Ort(p);
+    Auflegen(i, ort);
+    Auflegen(j, ort);
+    return true;
+  }
+
+  Gerade Gerade_(std::size_t i) const {
+    const XY& a = orte_[kanten_[i].von];
+    return {a, Differenz(orte_[kanten_[i].nach], a)};
+  }
+
+  void Auflegen(std::size_t i, std::size_t ort) {
+    const Umrisskante& k = kanten_[i];
+    if (ort == k.von || ort == k.nach) return;
+    const Gerade gerade = Gerade_(i);
+    const XY weg = Differenz(orte_[ort], gerade.punkt);
+    const double laenge = Betrag(gerade.richtung);
+    const double t = Skalarprodukt(weg, gerade.richtung) / (laenge * laenge);
+    if (!(t > 0.0 && t < 1.0)) return;
+    if (std::fabs(Kreuzprodukt(gerade.richtung, weg)) > kNullLaenge * laenge) return;
+    schnitte_.push_back({i, t, ort});
+  }
+
+  void Teilen() {
+    std::sort(schnitte_.begin(), schnitte_.end(), [](const Schnitt& s, const Schnitt& t) {
+      return std::make_tuple(s.kante, s.t, s.ort) < std::make_tuple(t.kante, t.t, t.ort);
+    });
+    for (std::size_t k = schnitte_.size(); k-- > 0;) {
+      const Schnitt& schnitt = schnitte_[k];
+      Umrisskante& vorn = kanten_[schnitt.kante];
+      if (vorn.nach == schnitt.ort) continue;
+      Umrisskante hinten = vorn;
+      hinten.von = schnitt.ort;
+      hinten.ecke = kKeine;
+      vorn.nach = schnitt.ort;
+      kanten_.push_back(hinten);
+    }
+  }
+
+  std::vector<XY>& orte_;
+  std::vector<Umrisskante>& kanten_;
+  Kreuzungsorte kreuzungsorte_;
+  std::vector<Schnitt> schnitte_;
+};
+
+/// Cutting moves edges by a rounding error, so now and then another round is needed.
+bool SauberTeilen(std::vector<XY>& orte, std::vector<Umrisskante>& kanten) {
+  constexpr int kRunden = 5;
+  Teilung teilung(orte, kanten);
+  for (int runde = 0; runde < kRunden; ++runde) {
+    switch (teilung.Runde()) {
+      case Teilung::Ausgang::kSauber:
+        return true;
+      case Teilung::Ausgang::kUnmoeglich:
+        return false;
+      case Teilung::Ausgang::kGeteilt:
+        Aufheben(kanten);
+        break;
+    }
+  }
+  return false;
 }
 
 /// Position of a direction when turning left from straight back: 0 is back the way one
@@ -154,15 +292,10 @@ class Aussenlauf {
 
 }  // namespace
 
-std::optional<std::vector<Ergebnisring>> AussenUmlaufen(const std::vector<XY>& orte,
+std::optional<std::vector<Ergebnisring>> AussenUmlaufen(std::vector<XY> orte,
                                                         std::vector<Umrisskante> kanten) {
   Aufheben(kanten);
-  std::vector<Verbindung> verbindungen;
-  verbindungen.reserve(kanten.size());
-  for (const Umrisskante& k : kanten) {
-    verbindungen.push_back({orte[k.von], orte[k.nach], k.von, k.nach});
-  }
-  if (!BeruehrenSichNurInOrten(verbindungen)) return std::nullopt;
+  if (!SauberTeilen(orte, kanten)) return std::nullopt;
   return Aussenlauf(orte, kanten).Ringe();
 }
 

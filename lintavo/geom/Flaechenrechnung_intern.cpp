@@ -222,14 +222,25 @@ double Breite(const Path& pfad, const Ganzzahlraster& raster) {
   return umfang > 0.0 ? 2 * Ringflaeche(ring) / umfang : 0.0;
 }
 
-std::vector<Ergebnisring> Verrechnen(const std::vector<Flaechenring>& ringe,
-                                     ClipperLib::ClipType art, double aufloesung) {
+bool IstZuVerschlungen(const std::vector<Flaechenring>& ringe) {
+  std::vector<Verbindung> kanten;
+  for (const Flaechenring& ring : ringe) {
+    std::vector<XY> orte;
+    for (const Flaechenecke& ecke : ring) orte.push_back(ecke.ort);
+    VerbindungenAnhaengen(orte, kanten.size(), kanten);
+  }
+  return Beruehrungen(kanten, kMaxBeruehrungen).size() > kMaxBeruehrungen;
+}
+
+std::optional<std::vector<Ergebnisring>> Verrechnen(const std::vector<Flaechenring>& ringe,
+                                                    ClipperLib::ClipType art, double aufloesung) {
   Ganzzahlraster raster;
   for (const Flaechenring& ring : ringe) {
     for (const Flaechenecke& ecke : ring) raster.Aufnehmen(ecke.ort);
   }
   std::vector<Ergebnisring> ergebnis;
   if (!raster.Einrichten(aufloesung)) return ergebnis;
+  if (IstZuVerschlungen(ringe)) return std::nullopt;
 
   const Eckenverzeichnis ecken(ringe, raster);
   ClipperLib::Clipper clipper;
@@ -256,21 +267,26 @@ std::vector<Ergebnisring> Verrechnen(const std::vector<Flaechenring>& ringe,
 
 }  // namespace
 
-std::vector<Ergebnisring> FlaecheVereinigen(const std::vector<Flaechenring>& ringe,
-                                            double aufloesung) {
+std::optional<std::vector<Ergebnisring>> FlaecheVereinigen(const std::vector<Flaechenring>& ringe,
+                                                           double aufloesung) {
   return Verrechnen(ringe, ClipperLib::ctUnion, aufloesung);
 }
 
-std::vector<Ergebnisring> FlaecheAbziehen(const std::vector<Flaechenring>& ringe,
-                                          double aufloesung) {
+std::optional<std::vector<Ergebnisring>> FlaecheAbziehen(const std::vector<Flaechenring>& ringe,
+                                                         double aufloesung) {
   return Verrechnen(ringe, ClipperLib::ctDifference, aufloesung);
 }
 
-double GemeinsameBreite(const std::vector<XY>& a, const std::vector<XY>& b, double aufloesung) {
+std::optional<double> GemeinsameBreite(const std::vector<XY>& a, const std::vector<XY>& b,
+                                       double aufloesung) {
   Ganzzahlraster raster;
   for (const XY& p : a) raster.Aufnehmen(p);
   for (const XY& p : b) raster.Aufnehmen(p);
   if (!raster.Einrichten(aufloesung)) return 0.0;
+  std::vector<Verbindung> kanten;
+  VerbindungenAnhaengen(a, 0, kanten);
+  VerbindungenAnhaengen(b, a.size(), kanten);
+  if (Beruehrungen(kanten, kMaxBeruehrungen).size() > kMaxBeruehrungen) return std::nullopt;
   ClipperLib::Clipper clipper;
   clipper.AddPath(Gegenuhrzeigersinn(a, raster), ClipperLib::ptSubject, true);
   clipper.AddPath(Gegenuhrzeigersinn(b, raster), ClipperLib::ptClip, true);

@@ -1,6 +1,7 @@
 // The polygon's offset and clean-up.
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -162,7 +163,8 @@ lintavo::Flaechenring AlsFlaechenring(const Ecken& ecken) {
 
 /// The pieces that a counter-clockwise ring leaves once its loops are cut off.
 std::vector<Ecken> SchleifenAbschneiden(const Ecken& ecken) {
-  return Stuecke(lintavo::FlaecheVereinigen({AlsFlaechenring(ecken)}, kNullLaenge));
+  const auto ringe = lintavo::FlaecheVereinigen({AlsFlaechenring(ecken)}, kNullLaenge);
+  return ringe.has_value() ? Stuecke(*ringe) : std::vector<Ecken>{};
 }
 
 /// Whether p lies in the strip that edge ab, moved to its left by tiefe, has swept.
@@ -224,8 +226,8 @@ lintavo::Flaechenring Streifen(const std::vector<XY>& ring, std::size_t i, doubl
 
 /// The offset by one distance for all edges as the outline with the strips of its edges
 /// added or taken away: right for every outline, however many sides vanish and wherever
-/// it falls to pieces.
-std::vector<Ecken> MitStreifen(const GEOM2_Polygon& polygon, double d, int umlauf) {
+/// it falls to pieces. Nothing when the strips are too many to be reckoned with.
+std::optional<std::vector<Ecken>> MitStreifen(const GEOM2_Polygon& polygon, double d, int umlauf) {
   Ecken ecken;
   for (int i = 0; i < polygon.GetAnzahl(); ++i) {
     ecken.push_back({lintavo::Ort(polygon.GetEckpunkt(i)), i});
@@ -240,8 +242,10 @@ std::vector<Ecken> MitStreifen(const GEOM2_Polygon& polygon, double d, int umlau
     }
     if (!streifen.empty()) ringe.push_back(std::move(streifen));
   }
-  return Stuecke(umlauf * d > 0.0 ? lintavo::FlaecheVereinigen(ringe, kNullLaenge)
-                                  : lintavo::FlaecheAbziehen(ringe, kNullLaenge));
+  const auto gefunden = umlauf * d > 0.0 ? lintavo::FlaecheVereinigen(ringe, kNullLaenge)
+                                         : lintavo::FlaecheAbziehen(ringe, kNullLaenge);
+  if (!gefunden.has_value()) return std::nullopt;
+  return Stuecke(*gefunden);
 }
 
 /// Cuts off the loops of an offset by several distances and leaves out the pieces that
@@ -277,12 +281,14 @@ Ecken Entschleifen(const Ecken& roh, const GEOM2_Polygon& polygon, const double*
   const bool heil = !kette.gedreht && lintavo::IstEinfach(Orte(ecken));
   if (heil && (kette.konvex || ecken.size() == roh.size())) return ecken;
 
-  const bool gleichmaessig = IstGleichmaessig(abstaende, polygon.GetAnzahl());
-  if (heil && !gleichmaessig && !IstUeberstrichen(ecken, polygon, abstaende, umlauf)) return ecken;
-  const std::vector<Ecken> stuecke = gleichmaessig
-                                         ? MitStreifen(polygon, abstaende[0], umlauf)
-                                         : OhneSchleifen(ecken, polygon, abstaende, umlauf);
-  return Groesstes(stuecke, umlauf);
+  std::optional<std::vector<Ecken>> stuecke;
+  if (IstGleichmaessig(abstaende, polygon.GetAnzahl())) {
+    stuecke = MitStreifen(polygon, abstaende[0], umlauf);
+  } else if (heil && !IstUeberstrichen(ecken, polygon, abstaende, umlauf)) {
+    return ecken;
+  }
+  if (!stuecke.has_value()) stuecke = OhneSchleifen(ecken, polygon, abstaende, umlauf);
+  return Groesstes(*stuecke, umlauf);
 }
 
 GEOM2_Polygon AlsPolygon(const Ecken& ecken, const GEOM2_Polygon& quelle) {

@@ -79,7 +79,9 @@ class Vereinigung {
   GEOM2_Polygon Umriss() const {
     const std::optional<std::vector<Ergebnisring>> umlaeufe = AussenUmlaufen(Plaetze(), Kanten());
     if (umlaeufe.has_value()) return AlsPolygon(Groesster(*umlaeufe));
-    return AlsPolygon(Groesster(FlaecheVereinigen(Ringe(), tol_ / kSchritteJeToleranz)));
+    const std::optional<std::vector<Ergebnisring>> flaechen =
+        FlaecheVereinigen(Ringe(), tol_ / kSchritteJeToleranz);
+    return flaechen.has_value() ? AlsPolygon(Groesster(*flaechen)) : GEOM2_Polygon();
   }
 
  private:
@@ -96,7 +98,8 @@ class Vereinigung {
     for (const std::vector<Fangecke>& ring : fang_.ringe) {
       for (std::size_t k = 0; k < ring.size(); ++k) {
         const Fangecke& danach = ring[k + 1 == ring.size() ? 0 : k + 1];
-        kanten.push_back({ring[k].ort, danach.ort, kanten.size(), ring[k].kante});
+        kanten.push_back({ring[k].ort, danach.ort, kanten.size(), ring[k].kante,
+                          formen_.ecken[ring[k].kante].form});
       }
     }
     return kanten;

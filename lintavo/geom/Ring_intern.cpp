@@ -119,7 +119,7 @@ class Ausduennung {
 
 /// An edge with its extent in x.
 struct Spanne {
-  const Verbindung* kante;
+  std::size_t kante;
   double links;
   double rechts;
 };
@@ -177,33 +177,42 @@ std::vector<std::size_t> NoetigeEcken(const std::vector<XY>& ring,
   return Ausduennung(ring, tolLinie, tolDeckung).Ausfuehren();
 }
 
-bool BeruehrenSichNurInOrten(const std::vector<Verbindung>& kanten) {
+std::vector<std::pair<std::size_t, std::size_t>> Beruehrungen(const std::vector<Verbindung>& kanten,
+                                                              std::size_t hoechstens) {
   std::vector<Spanne> spannen;
   spannen.reserve(kanten.size());
-  for (const Verbindung& k : kanten) {
-    spannen.push_back({&k, std::min(k.a.x, k.b.x), std::max(k.a.x, k.b.x)});
+  for (std::size_t i = 0; i < kanten.size(); ++i) {
+    const Verbindung& k = kanten[i];
+    spannen.push_back({i, std::min(k.a.x, k.b.x), std::max(k.a.x, k.b.x)});
   }
   std::sort(spannen.begin(), spannen.end(),
             [](const Spanne& s, const Spanne& t) { return s.links < t.links; });
+  std::vector<std::pair<std::size_t, std::size_t>> paare;
   for (std::size_t i = 0; i < spannen.size(); ++i) {
     for (std::size_t j = i + 1; j < spannen.size() && spannen[j].links <= spannen[i].rechts; ++j) {
-      if (KantenBeruehren(*spannen[i].kante, *spannen[j].kante)) return false;
+      if (!KantenBeruehren(kanten[spannen[i].kante], kanten[spannen[j].kante])) continue;
+      paare.emplace_back(spannen[i].kante, spannen[j].kante);
+      if (paare.size() > hoechstens) return paare;
     }
   }
-  return true;
+  return paare;
+}
+
+void VerbindungenAnhaengen(const std::vector<XY>& ring, std::size_t ersterOrt,
+                           std::vector<Verbindung>& kanten) {
+  for (std::size_t i = 0; i < ring.size(); ++i) {
+    const std::size_t j = i + 1 == ring.size() ? 0 : i + 1;
+    kanten.push_back({ring[i], ring[j], ersterOrt + i, ersterOrt + j});
+  }
 }
 
 bool IstEinfach(const std::vector<XY>& ring) {
-  const std::size_t n = ring.size();
-  if (n < 3) return false;
+  if (ring.size() < 3) return false;
   if (IstKonvex(ring)) return true;
   std::vector<Verbindung> kanten;
-  kanten.reserve(n);
-  for (std::size_t i = 0; i < n; ++i) {
-    const std::size_t j = i + 1 == n ? 0 : i + 1;
-    kanten.push_back({ring[i], ring[j], i, j});
-  }
-  return BeruehrenSichNurInOrten(kanten);
+  kanten.reserve(ring.size());
+  VerbindungenAnhaengen(ring, 0, kanten);
+  return Beruehrungen(kanten, 0).empty();
 }
 
 std::vector<std::vector<std::size_t>> AnBeruehrungenTeilen(const std::vector<std::size_t>& orte) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "lintavo/geom/XY.h"
@@ -29,8 +30,18 @@ struct Verbindung {
   std::size_t nach = 0;
 };
 
-/// True when no two edges have a point in common except an end place with the same number.
-bool BeruehrenSichNurInOrten(const std::vector<Verbindung>& kanten);
+/// More touching pairs of edges than this are no drawing: the effort of cutting them all
+/// grows out of proportion, so operations on areas give up instead.
+inline constexpr std::size_t kMaxBeruehrungen = 300'000;
+
+/// The pairs of edges, by index, that have a point in common, an end place with the same
+/// number apart; stops when there are more than hoechstens.
+std::vector<std::pair<std::size_t, std::size_t>> Beruehrungen(const std::vector<Verbindung>& kanten,
+                                                              std::size_t hoechstens);
+
+/// The edges of a ring; its places are numbered from ersterOrt on.
+void VerbindungenAnhaengen(const std::vector<XY>& ring, std::size_t ersterOrt,
+                           std::vector<Verbindung>& kanten);
 
 /// True when no two edges of the ring touch except neighbours in their common corner.
 bool IstEinfach(const std::vector<XY>& ring);
