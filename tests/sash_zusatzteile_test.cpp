@@ -227,6 +227,18 @@ TEST(Zusatzteil, WithoutAPlaceItLeavesTheRestAlone) {
   EXPECT_EQ(satz.GetAbstandZurRahmenInnenSeite(true, kUnten), 60.0);
 }
 
+TEST(Zusatzteil, ComesBackToItsPlaceInTheOrderOfTheList) {
+  CMFensterSatzRechteck satz = Fluegel();
+  satz.EinzelTeile = {AusDatei(eZusatzteilInnen, kUnten, 2000.0),
+                      AusDatei(eZusatzteilInnen, kUnten, 8.0)};
+  ASSERT_TRUE(satz.PlaziereZusatzteile(false));
+  ErwarteStrecke(satz.EinzelTeile[1], {50, 54}, {950, 54});
+  satz.EinzelTeile[0].dBreite = 10.0;
+  ASSERT_TRUE(satz.PlaziereZusatzteile(false));
+  ErwarteStrecke(satz.EinzelTeile[0], {50, 55}, {950, 55});
+  ErwarteStrecke(satz.EinzelTeile[1], {50, 64}, {950, 64});
+}
+
 TEST(Zusatzteil, DamagedChains) {
   CMFensterSatzRechteck satz = Fluegel();
   satz.AddZusatzteil(kUnten, Teil(10.0), true);

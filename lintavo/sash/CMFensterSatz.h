@@ -205,8 +205,11 @@ class LINTAVO_API CMFensterSatz {
   /// Lays axis 0 of an extra part along its side, outside or inside everything
   /// that its side carries. False when it has no place.
   bool PlaziereZusatzteil(CMBauteil& part) const;
-  /// Places all outer (true) or all inner (false) extra parts. Always true;
-  /// throws when a chain names a part that does not exist.
+  /// Places all outer (true) or all inner (false) extra parts, and those of
+  /// either kind that hang in a chain already, in the order of the list. A part
+  /// that has no place gets an axis of length zero and leaves its chain, so that
+  /// its width counts nowhere. Always true; throws when a chain names a part that
+  /// does not exist.
   bool PlaziereZusatzteile(bool aussen);
 
   // --- fields ----------------------------------------------------------------
@@ -262,9 +265,7 @@ class LINTAVO_API CMFensterSatz {
   bool SprossenKontur(GEOM2_Polygon& contour) const;
   CMBauteil* SprosseAnfuegen(const CMBauteil& vorlage, GEOM2_Achse achse,
                              const GEOM2_Polygon& contour);
-  bool HaengtAn(const CMBauteil& part, std::size_t rahmenteil) const;
   long* KettenEnde(const CMBauteil& part);
   bool ZusatzteilAnschliessen(CMBauteil& part, bool aussen);
-  std::vector<bool> KettenPruefen();
-  void KettePlazieren(CMBauteil& rahmenteil, bool aussen);
+  std::vector<bool> KettenAufloesen();
 };
