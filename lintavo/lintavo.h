@@ -4,6 +4,7 @@
 
 #include "lintavo/api/CFeApi.h"
 #include "lintavo/api/CFeApiPolygon.h"
+#include "lintavo/api/CFeApiStrecken.h"
 #include "lintavo/api/CFeApiWandOeffnungsParameter.h"
 #include "lintavo/geom/CMStrecke.h"
 #include "lintavo/geom/GEOM2_Achse.h"

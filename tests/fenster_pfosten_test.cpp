@@ -140,7 +140,8 @@ TEST(Fluegel, CopiesAreDeepAndDeletingClosesTheGap) {
   EXPECT_FALSE(fenster.DeleteFluegel(2));
   EXPECT_EQ(fenster.GetFluegelNr(fenster.GetFluegelPtr("DREI")), 1);
   EXPECT_EQ(copy.GetAnzahlFluegel(), 3);
-  copy = copy;
+  const CMFenster& itself = copy;
+  copy = itself;
   EXPECT_EQ(copy.GetFluegelPtr(2L)->strName, "Drei");
 }
 

@@ -138,6 +138,7 @@ double Schnittwinkel(const XY& richtung, XY seite) {
   if (Kreuzprodukt(richtung, seite) < 0.0) seite = lintavo::Mal(seite, -1.0);
   const double winkel = std::atan2(Skalarprodukt(richtung, seite), Kreuzprodukt(richtung, seite)) *
                         lintavo::kGradJeRadiant;
+  if (std::fabs(winkel) <= lintavo::kGleicherWinkel) return 0.0;
   return std::clamp(winkel, -lintavo::kGroessterSchnittwinkel, lintavo::kGroessterSchnittwinkel);
 }
 

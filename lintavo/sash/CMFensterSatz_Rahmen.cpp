@@ -202,6 +202,9 @@ long CMFensterSatz::RahmenSegmenteZusammenfassen(double maxLength, double maxAng
 bool CMFensterSatz::BerechneRahmenPolygon(double maxLength, double maxAngle,
                                           const CMFensterSatz& frame, const GEOM2_Polygon& outline,
                                           long) {
+  // A sash without a frame keeps no parts of its own: its overlap is always the
+  // template's, also before the first calculation has dropped stored parts.
+  if (!bMitRahmen) RahmenTeile.clear();
   GEOM2_Polygon sides = outline;
   const long parts = RahmenSegmenteZusammenfassen(maxLength, maxAngle, sides);
   if (parts < 0) return false;
