@@ -289,7 +289,7 @@ Ecken Entschleifen(const Ecken& roh, const GEOM2_Polygon& polygon, const double*
   }
   if (!SindBrauchbar(ecken)) return {};
   ecken = Ausgeduennt(ecken, kNullLaenge);
-  if (ecken.empty()) return {};
+  if (kette.konvex && ecken.empty()) return {};
   const bool heil = !kette.gedreht && umlauf * lintavo::Ringflaeche(Orte(ecken)) > 0.0 &&
                     (kette.konvex || lintavo::IstEinfach(Orte(ecken)));
   if (heil && (kette.konvex || kette.ecken.size() == roh.size())) return ecken;
