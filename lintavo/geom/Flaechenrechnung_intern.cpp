@@ -182,6 +182,45 @@ class Herkunft {
   const Ganzzahlraster& raster_;
 };
 
+/// Whether p lies within rounding of the inside of ab.
+bool LiegtAuf(const IntPoint& p, const IntPoint& a, const IntPoint& b) {
+  const XY weg = Differenz(AlsXY(b), AlsXY(a));
+  const XY zuP = Differenz(AlsXY(p), AlsXY(a));
+  const double laenge = Betrag(weg);
+  const double entlang = Skalarprodukt(weg, zuP);
+  return entlang > kRundung * laenge && entlang < laenge * (laenge - kRundung) &&
+         std::fabs(Kreuzprodukt(weg, zuP)) <= kRundung * laenge;
+}
+
+/// Makes narrow passages narrower than rounding into touches: corners almost in one place
+/// are put into one, corners almost on an edge are put onto it.
+Path EngstellenSchliessen(Path pfad) {
+  constexpr std::size_t kGroesste = 2000;  // the effort is quadratic
+  const std::size_t n = pfad.size();
+  if (n > kGroesste) return pfad;
+  for (std::size_t i = 0; i < n; ++i) {
+    for (std::size_t j = i + 2; j < n; ++j) {
+      if (i == 0 && j + 1 == n) continue;
+      if (Abstand(AlsXY(pfad[i]), AlsXY(pfad[j])) <= kRundung) pfad[j] = pfad[i];
+    }
+  }
+  Path voll;
+  for (std::size_t i = 0; i < n; ++i) {
+    const IntPoint& a = pfad[i];
+    const IntPoint& b = pfad[(i + 1) % n];
+    const std::size_t erste = voll.size();
+    voll.push_back(a);
+    for (const IntPoint& p : pfad) {
+      if (LiegtAuf(p, a, b)) voll.push_back(p);
+    }
+    std::sort(voll.begin() + static_cast<std::ptrdiff_t>(erste), voll.end(),
+              [&](const IntPoint& p, const IntPoint& q) {
+                return Abstand(AlsXY(a), AlsXY(p)) < Abstand(AlsXY(a), AlsXY(q));
+              });
+  }
+  return voll;
+}
+
 /// A number for every corner of a path, equal for equal places.
 std::vector<std::size_t> Orte(const Path& pfad) {
   std::vector<std::size_t> ordnung(pfad.size());
@@ -255,7 +294,8 @@ std::optional<std::vector<Ergebnisring>> Verrechnen(const std::vector<Flaechenri
   Paths pfade;
   if (!Rechnen(clipper, art, pfade)) return ergebnis;
   const Herkunft herkunft(ecken, raster);
-  for (const Path& pfad : pfade) {
+  for (const Path& gefunden : pfade) {
+    const Path pfad = EngstellenSchliessen(gefunden);
     for (const std::vector<std::size_t>& nummern : AnBeruehrungenTeilen(Orte(pfad))) {
       Path teil;
       for (const std::size_t i : nummern) teil.push_back(pfad[i]);

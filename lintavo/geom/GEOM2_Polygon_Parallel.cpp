@@ -266,6 +266,16 @@ bool IstGleichmaessig(const double* abstaende, int anzahl) {
   });
 }
 
+/// The vertices of a ring that it cannot do without.
+Ecken Ausgeduennt(const Ecken& ecken, double tol) {
+  const std::vector<double> tolLinie(ecken.size(), tol);
+  Ecken noetig;
+  for (const std::size_t i : lintavo::NoetigeEcken(Orte(ecken), tolLinie, tol)) {
+    noetig.push_back(ecken[i]);
+  }
+  return noetig;
+}
+
 /// Drops the sides that the offset turned round, and cuts off what loops remain.
 Ecken Entschleifen(const Ecken& roh, const GEOM2_Polygon& polygon, const double* abstaende) {
   if (roh.size() < 3) return {};
@@ -277,9 +287,12 @@ Ecken Entschleifen(const Ecken& roh, const GEOM2_Polygon& polygon, const double*
   for (const lintavo::Kettenecke& ecke : kette.ecken) {
     ecken.push_back({ecke.punkt, roh[ecke.seite].quelle});
   }
-  if (ecken.empty() || !SindBrauchbar(ecken)) return {};
-  const bool heil = !kette.gedreht && lintavo::IstEinfach(Orte(ecken));
-  if (heil && (kette.konvex || ecken.size() == roh.size())) return ecken;
+  if (!SindBrauchbar(ecken)) return {};
+  ecken = Ausgeduennt(ecken, kNullLaenge);
+  if (kette.konvex && ecken.empty()) return {};
+  const bool heil = !kette.gedreht && umlauf * lintavo::Ringflaeche(Orte(ecken)) > 0.0 &&
+                    (kette.konvex || lintavo::IstEinfach(Orte(ecken)));
+  if (heil && (kette.konvex || kette.ecken.size() == roh.size())) return ecken;
 
   std::optional<std::vector<Ecken>> stuecke;
   if (IstGleichmaessig(abstaende, polygon.GetAnzahl())) {
@@ -300,17 +313,15 @@ GEOM2_Polygon AlsPolygon(const Ecken& ecken, const GEOM2_Polygon& quelle) {
   return polygon;
 }
 
-/// The vertices of a polygon as a ring without loops; empty when nothing is left.
-Ecken SchleifenLoeschen(const GEOM2_Polygon& polygon) {
-  Ecken ecken;
-  for (int i = 0; i < polygon.GetAnzahl(); ++i) {
-    ecken.push_back({lintavo::Ort(polygon.GetEckpunkt(i)), i});
-  }
+/// Cuts off loops and folds, then thins out. Rings without loops, the usual ones, are
+/// recognised once they are thinned out.
+Ecken Bereinigt(const Ecken& ecken, double tol, int umlauf) {
   if (!SindBrauchbar(ecken)) return {};
-  if (lintavo::IstEinfach(Orte(ecken))) return ecken;
-  const int umlauf = polygon.GetFlaeche() < 0.0 ? -1 : 1;
-  if (umlauf < 0) SeitenUmkehren(ecken);
-  return Groesstes(SchleifenAbschneiden(ecken), umlauf);
+  Ecken duenn = Ausgeduennt(ecken, tol);
+  if (duenn.empty() || lintavo::IstEinfach(Orte(duenn))) return duenn;
+  Ecken ring = ecken;
+  if (umlauf < 0) SeitenUmkehren(ring);
+  return Ausgeduennt(Groesstes(SchleifenAbschneiden(ring), umlauf), tol);
 }
 
 }  // namespace
@@ -321,16 +332,11 @@ bool GEOM2_Polygon::Bereinigen(double tol) {
 
 bool GEOM2_Polygon::Bereinigen(double tol, bool schleifen) {
   if (GetAnzahl() < 2) return false;
-  const GEOM2_Polygon quelle =
-      schleifen ? AlsPolygon(SchleifenLoeschen(*this), *this) : std::move(*this);
-  Clear();
-  std::vector<XY> orte;
-  for (int i = 0; i < quelle.GetAnzahl(); ++i) orte.push_back(lintavo::Ort(quelle.GetEckpunkt(i)));
-  const std::vector<double> tolLinie(orte.size(), tol);
-  for (const std::size_t i : lintavo::NoetigeEcken(orte, tolLinie, tol)) {
-    const GEOM2_Eckpunkt& ecke = quelle.GetEckpunkt(static_cast<int>(i));
-    AddPunkt(ecke.x, ecke.y, 0.0, ecke.dWert2, ecke.Attribut);
-  }
+  Ecken ecken;
+  for (int i = 0; i < GetAnzahl(); ++i) ecken.push_back({lintavo::Ort(GetEckpunkt(i)), i});
+  ecken = schleifen ? Bereinigt(ecken, tol, GetFlaeche() < 0.0 ? -1 : 1) : Ausgeduennt(ecken, tol);
+  GEOM2_Polygon neu = AlsPolygon(ecken, *this);
+  *this = std::move(neu);
   return GetAnzahl() >= 3;
 }
 

@@ -69,6 +69,7 @@ class Ausduennung {
       Aushaengen(i, std::max(glied.abweichung, glieder_[glied.davor].abweichung) + tolDeckung_);
       return true;
     }
+    if (Abstand(p, ring_[i]) <= tolDeckung_) return false;  // p itself goes, being earlier
     if (Abstand(p, n) <= tolDeckung_) {
       glieder_[i].spitze = true;
       Aushaengen(i, 0.0);
@@ -124,31 +125,34 @@ struct Spanne {
   double rechts;
 };
 
-int Seite(const XY& a, const XY& b, const XY& p) {
+/// +1 when p lies left of ab, -1 when it lies right of it, 0 within tol or rounding.
+int Seite(const XY& a, const XY& b, const XY& p, double tol = 0.0) {
   const XY weg = Differenz(b, a);
   const XY zuP = Differenz(p, a);
   const double flaeche = Kreuzprodukt(weg, zuP);
   const double rauschen = kParallelSinus * (std::fabs(weg.x * zuP.y) + std::fabs(weg.y * zuP.x));
-  return flaeche > rauschen ? 1 : flaeche < -rauschen ? -1 : 0;
+  const double grenze = tol > 0.0 ? std::max(rauschen, tol * Betrag(weg)) : rauschen;
+  return flaeche > grenze ? 1 : flaeche < -grenze ? -1 : 0;
 }
 
-bool HoehenUeberlappen(const Verbindung& s, const Verbindung& t) {
-  return std::max(s.a.y, s.b.y) >= std::min(t.a.y, t.b.y) &&
-         std::max(t.a.y, t.b.y) >= std::min(s.a.y, s.b.y);
+bool HoehenUeberlappen(const Verbindung& s, const Verbindung& t, double tol) {
+  return std::max(s.a.y, s.b.y) + tol >= std::min(t.a.y, t.b.y) &&
+         std::max(t.a.y, t.b.y) + tol >= std::min(s.a.y, s.b.y);
 }
 
 /// Whether two edges that start in one place go the same way.
-bool LiegenAufeinander(const XY& ort, const XY& p, const XY& q) {
-  return Seite(ort, p, q) == 0 && Skalarprodukt(Differenz(p, ort), Differenz(q, ort)) > 0.0;
+bool LiegenAufeinander(const XY& ort, const XY& p, const XY& q, double tol) {
+  return Seite(ort, p, q, tol) == 0 && Skalarprodukt(Differenz(p, ort), Differenz(q, ort)) > 0.0;
 }
 
-bool KantenBeruehren(const Verbindung& s, const Verbindung& t) {
-  if (s.von == t.von) return LiegenAufeinander(s.a, s.b, t.b);
-  if (s.von == t.nach) return LiegenAufeinander(s.a, s.b, t.a);
-  if (s.nach == t.von) return LiegenAufeinander(s.b, s.a, t.b);
-  if (s.nach == t.nach) return LiegenAufeinander(s.b, s.a, t.a);
-  return HoehenUeberlappen(s, t) && Seite(s.a, s.b, t.a) * Seite(s.a, s.b, t.b) <= 0 &&
-         Seite(t.a, t.b, s.a) * Seite(t.a, t.b, s.b) <= 0;
+bool KantenBeruehren(const Verbindung& s, const Verbindung& t, double tol) {
+  if (!HoehenUeberlappen(s, t, tol)) return false;
+  if (s.von == t.von) return LiegenAufeinander(s.a, s.b, t.b, tol);
+  if (s.von == t.nach) return LiegenAufeinander(s.a, s.b, t.a, tol);
+  if (s.nach == t.von) return LiegenAufeinander(s.b, s.a, t.b, tol);
+  if (s.nach == t.nach) return LiegenAufeinander(s.b, s.a, t.a, tol);
+  return Seite(s.a, s.b, t.a, tol) * Seite(s.a, s.b, t.b, tol) <= 0 &&
+         Seite(t.a, t.b, s.a, tol) * Seite(t.a, t.b, s.b, tol) <= 0;
 }
 
 /// Turning one way only and coming round once: a ring like that needs no search.
@@ -178,7 +182,7 @@ std::vector<std::size_t> NoetigeEcken(const std::vector<XY>& ring,
 }
 
 std::vector<std::pair<std::size_t, std::size_t>> Beruehrungen(const std::vector<Verbindung>& kanten,
-                                                              std::size_t hoechstens) {
+                                                              std::size_t hoechstens, double tol) {
   std::vector<Spanne> spannen;
   spannen.reserve(kanten.size());
   for (std::size_t i = 0; i < kanten.size(); ++i) {
@@ -189,8 +193,9 @@ std::vector<std::pair<std::size_t, std::size_t>> Beruehrungen(const std::vector<
             [](const Spanne& s, const Spanne& t) { return s.links < t.links; });
   std::vector<std::pair<std::size_t, std::size_t>> paare;
   for (std::size_t i = 0; i < spannen.size(); ++i) {
-    for (std::size_t j = i + 1; j < spannen.size() && spannen[j].links <= spannen[i].rechts; ++j) {
-      if (!KantenBeruehren(kanten[spannen[i].kante], kanten[spannen[j].kante])) continue;
+    for (std::size_t j = i + 1; j < spannen.size() && spannen[j].links <= spannen[i].rechts + tol;
+         ++j) {
+      if (!KantenBeruehren(kanten[spannen[i].kante], kanten[spannen[j].kante], tol)) continue;
       paare.emplace_back(spannen[i].kante, spannen[j].kante);
       if (paare.size() > hoechstens) return paare;
     }
@@ -212,7 +217,7 @@ bool IstEinfach(const std::vector<XY>& ring) {
   std::vector<Verbindung> kanten;
   kanten.reserve(ring.size());
   VerbindungenAnhaengen(ring, 0, kanten);
-  return Beruehrungen(kanten, 0).empty();
+  return Beruehrungen(kanten, 0, kNullLaenge).empty();
 }
 
 std::vector<std::vector<std::size_t>> AnBeruehrungenTeilen(const std::vector<std::size_t>& orte) {

@@ -34,16 +34,18 @@ struct Verbindung {
 /// grows out of proportion, so operations on areas give up instead.
 inline constexpr std::size_t kMaxBeruehrungen = 300'000;
 
-/// The pairs of edges, by index, that have a point in common, an end place with the same
-/// number apart; stops when there are more than hoechstens.
+/// The pairs of edges, by index, that come within tol of each other, an end place with the
+/// same number apart; stops when there are more than hoechstens. tol 0 leaves rounding.
 std::vector<std::pair<std::size_t, std::size_t>> Beruehrungen(const std::vector<Verbindung>& kanten,
-                                                              std::size_t hoechstens);
+                                                              std::size_t hoechstens,
+                                                              double tol = 0.0);
 
 /// The edges of a ring; its places are numbered from ersterOrt on.
 void VerbindungenAnhaengen(const std::vector<XY>& ring, std::size_t ersterOrt,
                            std::vector<Verbindung>& kanten);
 
-/// True when no two edges of the ring touch except neighbours in their common corner.
+/// True when no two edges of the ring come within 1e-6 of each other, except neighbours in
+/// their common corner.
 bool IstEinfach(const std::vector<XY>& ring);
 
 /// Splits a closed walk over numbered places wherever it comes back to a place: each part
