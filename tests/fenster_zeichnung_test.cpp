@@ -1,10 +1,11 @@
 // Dimension lines, their extension lines and arrowheads, and the box around them.
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 
+#include <gtest/gtest.h>
+
 #include "lintavo/model/CMFenster.h"
+
 #include "support/Beispiele.h"
 #include "support/Geometrie.h"
 
@@ -83,8 +84,8 @@ TEST_F(Maszlinie, DistanceIsScaledOnlyOnRequest) {
 // Only the form with a distance tells that a dimension has no line.
 TEST_F(Maszlinie, DimensionWithoutAKindHasNoLine) {
   const CMStrecke before(1.0, 2.0, 3.0, 4.0);
-  for (const CMZusatzMasz& masz : {Masz(0, kHorizontal, 0, 0, 100.0, 5.0),
-                                   Masz(kEinseitig, 7, 0, 0, 100.0, 5.0)}) {
+  for (const CMZusatzMasz& masz :
+       {Masz(0, kHorizontal, 0, 0, 100.0, 5.0), Masz(kEinseitig, 7, 0, 0, 100.0, 5.0)}) {
     const long i = fenster.AddZusatzMasz(masz);
     s = before;
     EXPECT_FALSE(fenster.GetMaszline(i, s, 5.0));
