@@ -11,6 +11,7 @@
 #include "lintavo/geom/GEOM2_Eckpunkt.h"
 #include "lintavo/geom/GEOM2_Polygon.h"
 #include "lintavo/geom/Geraden.h"
+#include "lintavo/geom/KanteClippen.h"
 #include "lintavo/geom/PolygonVereinigung.h"
 #include "lintavo/geom/Seitendeckung.h"
 #include "lintavo/geom/Toleranzen.h"

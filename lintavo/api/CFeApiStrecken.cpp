@@ -3,14 +3,15 @@
 #include <algorithm>
 #include <memory>
 
-CFeApiStrecken::CFeApiStrecken(const CFeApiStrecken& other) { *this = other; }
+CFeApiStrecken::CFeApiStrecken(const CFeApiStrecken& other) {
+  *this = other;
+}
 
 CFeApiStrecken& CFeApiStrecken::operator=(const CFeApiStrecken& other) {
   if (this == &other) return *this;
   SetOrder(other.lAnzahl);
-  for (double* CFeApiStrecken::*werte :
-       {&CFeApiStrecken::pdX1, &CFeApiStrecken::pdY1, &CFeApiStrecken::pdX2,
-        &CFeApiStrecken::pdY2}) {
+  for (double* CFeApiStrecken::*werte : {&CFeApiStrecken::pdX1, &CFeApiStrecken::pdY1,
+                                         &CFeApiStrecken::pdX2, &CFeApiStrecken::pdY2}) {
     std::copy_n(other.*werte, lAnzahl, this->*werte);
   }
   std::copy_n(other.piFarbe, lAnzahl, piFarbe);
@@ -18,7 +19,9 @@ CFeApiStrecken& CFeApiStrecken::operator=(const CFeApiStrecken& other) {
   return *this;
 }
 
-CFeApiStrecken::~CFeApiStrecken() { Delete(); }
+CFeApiStrecken::~CFeApiStrecken() {
+  Delete();
+}
 
 void CFeApiStrecken::SetOrder(int n) {
   const auto size = static_cast<std::size_t>(std::max(n, 0));
@@ -40,10 +43,9 @@ void CFeApiStrecken::SetOrder(int n) {
 }
 
 void CFeApiStrecken::Delete() {
-  for (double* CFeApiStrecken::*werte :
-       {&CFeApiStrecken::pdX1, &CFeApiStrecken::pdY1, &CFeApiStrecken::pdX2,
-        &CFeApiStrecken::pdY2}) {
-    delete[] (this->*werte);
+  for (double* CFeApiStrecken::*werte : {&CFeApiStrecken::pdX1, &CFeApiStrecken::pdY1,
+                                         &CFeApiStrecken::pdX2, &CFeApiStrecken::pdY2}) {
+    delete[](this->*werte);
     this->*werte = nullptr;
   }
   delete[] piFarbe;

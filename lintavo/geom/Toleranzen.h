@@ -55,6 +55,8 @@ inline constexpr double kHalbeDrehung = 1e-9;
 /// Largest lean of an end cut from the perpendicular, in degrees. An outline
 /// that runs almost along the axis would send the corners of the cut to infinity.
 inline constexpr double kGroessterSchnittwinkel = 85.0;
+/// Rotation, in degrees, by which a bar may lean and still run straight across.
+inline constexpr double kGeraderWinkel = 1e-6;
 /// Cut angles, in degrees, that differ by no more than this are the same one.
 inline constexpr double kGleicherWinkel = 1e-7;
 

@@ -2,12 +2,14 @@
 //
 // Sources by theme: CMFenster.cpp (lists, state), _Datei (macro file),
 // _Berechnung (the calculation), _Pfosten (mullions and transoms),
-// _Masze (dimensions that drive the grid), _Zeichnung (sizes and drawings).
+// _Masze (dimensions that drive the grid), _Zeichnung (sizes, dimension lines and
+// symbols), _Ansicht (the front view with hidden lines removed).
 #pragma once
 
 #include <memory>
 #include <vector>
 
+#include "lintavo/geom/CMStrecke.h"
 #include "lintavo/geom/GEOM2_Polygon.h"
 #include "lintavo/geom/XY.h"
 #include "lintavo/model/CMAchsen.h"
@@ -209,6 +211,64 @@ class LINTAVO_API CMFenster {
   /// Width and height of the bounding box, never negative.
   void GetSize(XY& size) const;
   void GetSize(CSize& size) const;
+  /// The bounding box (xmin, ymin, xmax, ymax) widened by the extension lines,
+  /// `dUeberstand` long, of every dimension that has some.
+  void GetBox(double dUeberstand, double box[4]) const;
+  /// The same with the dimension lines of `GetMaszline (i, s, bSkaliert, dFaktor)`.
+  void GetBox(double dUeberstand, bool bSkaliert, double dFaktor, double box[4]) const;
+
+  // --- drawings --------------------------------------------------------------
+
+  /// The line of dimension `i`, at distance `dAbst` from node 1, from left to
+  /// right or upwards. It is as long as the dimension; where its other nodes lie
+  /// does not matter. False, with `s` untouched, when there is no such dimension
+  /// or it is neither horizontal nor vertical, or neither one-sided nor centred.
+  bool GetMaszline(long i, CMStrecke& s, double dAbst) const;
+  /// The same at the dimension's own distance. On purpose true whenever there is
+  /// a dimension `i`, even where it has no line and `s` stays untouched.
+  bool GetMaszline(long i, CMStrecke& s) const;
+  /// The same at `dFaktor` times the dimension's own distance when `bSkaliert`.
+  bool GetMaszline(long i, CMStrecke& s, bool bSkaliert, double dFaktor) const;
+  /// The extension lines of dimension `i`: each crosses an end of the dimension
+  /// line at a right angle, is `d` long and halved by it. False, with both
+  /// untouched, when there is no dimension or its line is shorter than 1e-6.
+  bool GetMaszHilfsLinien(long i, double d, CMStrecke& l1, CMStrecke& l2) const;
+  /// The same for a given dimension line.
+  static bool GetMaszHilfsLinien(const CMStrecke& s, double d, CMStrecke& l1, CMStrecke& l2);
+  /// The arrowheads of dimension `i`: triangles whose tips lie on the ends of its
+  /// line and point outwards. False, with both untouched, in the same cases.
+  bool GetMaszBegrenzung(long i, double dPfeilLaenge, double dPfeilBreite, GEOM2_Polygon& p1,
+                         GEOM2_Polygon& p2) const;
+  /// The same for a given dimension line.
+  static bool GetMaszBegrenzung(const CMStrecke& s, double dPfeilLaenge, double dPfeilBreite,
+                                GEOM2_Polygon& p1, GEOM2_Polygon& p2);
+  /// The front view of the calculated window, hidden lines removed: frame, mullions
+  /// and transoms, extra parts, and of each sash its frame, bars, slats and filling.
+  ///
+  /// `lines` is emptied first. It receives the long edges of every part (of outer
+  /// extra parts also the ends; joints inside a bent part, mitres and other cuts are
+  /// not drawn) where no part nearer to the viewer covers them. The picture is never
+  /// mirrored: x grows to the right from both sides. What is nearer:
+  ///
+  /// - sashes that open towards the viewer cover the frame, the frame covers those
+  ///   that open away from him; it covers panes without a sash frame from both sides;
+  /// - of two sashes that overlap, the one with the smaller depth offset on the viewer's
+  ///   side; at equal offset, seen from the side to which they open, the one that opens
+  ///   first, then the earlier one of the list, and the other way round from behind;
+  /// - a sash covers with all of its outline, its glass included. Inside it the order is
+  ///   frame parts, single parts, glazing bars, slats, filling; in the frame extra parts,
+  ///   frame parts, mullions and transoms;
+  /// - of equal parts that cross, such as two bars, the earlier one runs through.
+  ///
+  /// Where edges coincide (within 0.001) only that of higher Prio is drawn, of equals
+  /// that of the nearer part, a filling's last of all. The attributes of a part come in
+  /// two pairs, one for each side: from inside Farbe is a1 and Prio a3, from outside
+  /// Farbe is a2 and Prio a4; a filling's are I1 to I4 in the same way.
+  ///
+  /// The same window always gives the same lines in the same order. True when there
+  /// are lines; false, without any, for a window that is not calculated and for a
+  /// picture of more than a million lines.
+  bool GetHiddenLineBild(std::vector<CMStrecke>& lines, bool bVonAussen) const;
 
   /// Readable dump for diagnostics.
   void Trace() const {}

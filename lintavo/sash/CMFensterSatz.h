@@ -4,11 +4,13 @@
 // and bars; the outline comes from its shape class. Sources by theme:
 // CMFensterSatz.cpp (state, lists), _Datei (file section), _Rahmen (frame
 // polygon and parts), _Sprossen (glazing bars), _Stich (rise fitting),
-// _Zusatzteile (extra parts).
+// _Zusatzteile (extra parts), _Fuellung (filling, fittings, glass dimensions),
+// _Symbole (opening symbols), _Bild (the picture of one sash).
 #pragma once
 
 #include <vector>
 
+#include "lintavo/geom/CMStrecke.h"
 #include "lintavo/geom/GEOM2_Polygon.h"
 #include "lintavo/geom/XY.h"
 #include "lintavo/model/CMBauteil.h"
@@ -28,6 +30,31 @@ enum eFluegelFormen : int {
   eFormBogen = 2,
   eFormEllipse = 3,
   eFormHalbBogen = 4
+};
+
+/// Opening kinds, the values of `CMFensterSatz::lGangart`.
+enum eGangarten : int {
+  eGangartFest = 0,              ///< "Fe": fixed glazing
+  eGangartDreh = 1,              ///< "Dr": turns about an upright side
+  eGangartKipp = 2,              ///< "Ki": tilts about its lower side
+  eGangartKlapp = 3,             ///< "Kl": swings about its upper side
+  eGangartDrehKipp = 4,          ///< "DK": turns and tilts
+  eGangartHebeDreh = 5,          ///< "HD": is lifted, then turns
+  eGangartSchwing = 6,           ///< "Sw": pivots about its level middle axis
+  eGangartWende = 7,             ///< "We": pivots about its upright middle axis
+  eGangartSchiebe = 8,           ///< "Sc": slides
+  eGangartHebeSchiebe = 9,       ///< "HS": is lifted, then slides
+  eGangartFalt = 10,             ///< "Fa": folds
+  eGangartHebeSchiebeKipp = 11,  ///< "HSK": is lifted, then slides, and tilts
+};
+
+/// Hinge sides, the values of `CMFensterSatz::lAnschlag`. A sliding sash moves
+/// away from its hinge side.
+enum eAnschlagSeiten : int {
+  eAnschlagLinks = 0,
+  eAnschlagRechts = 1,
+  eAnschlagOben = 2,
+  eAnschlagUnten = 3
 };
 
 /// One coefficient of a rectangle's corner, in drawing units.
@@ -212,6 +239,66 @@ class LINTAVO_API CMFensterSatz {
   /// does not exist.
   bool PlaziereZusatzteile(bool aussen);
 
+  // --- filling ---------------------------------------------------------------
+
+  /// The contour of the filling and, where it is slats, the slats.
+  ///
+  /// The contour is the inner contour with extra parts, without edges shorter
+  /// than the filling's `D7` (all of them stay where none would be long enough).
+  /// Slats lie level from its lower edge upwards, one gap before each, cut to the
+  /// contour; a narrower last one takes up more than 0.1 of remaining height.
+  /// They are appended and carry `nummer` in `lReferenz`. No more than 1000 are
+  /// made, from below; none when the slats' width or their pitch is below 1e-6 or
+  /// not finite.
+  ///
+  /// @return false, with an empty contour, when there is no inner contour, and
+  ///         for slats in a contour without height or width.
+  bool GetFuellung(long nummer, GEOM2_Polygon& contour, std::vector<CMBauteil>& slats) const;
+
+  /// Appends the glass dimensions: the chain from one side of the inner contour's
+  /// box to the other along the axes of the bars that run straight across it.
+  /// Hori measures between upright bars on the box's lower edge, from left to
+  /// right; Vert between level bars on its left edge, upwards. Bars that end half
+  /// way divide the chain too. False when there is no inner contour.
+  bool GetMaszeGlaslichteHori(std::vector<CMStrecke>& masze) const;
+  bool GetMaszeGlaslichteVert(std::vector<CMStrecke>& masze) const;
+
+  // --- fittings --------------------------------------------------------------
+
+  /// Puts a fitting on frame part `part` and returns its index; -1 when there is
+  /// no such part. The distances are brought into their range: 0 to the length
+  /// and the width of the part, or 0 to 100 percent. A handle sits on the outer
+  /// edge: its second distance becomes 0 percent.
+  long ErzeugeBeschlag(long part, eBeschlagTypen type, eVermaszung mode1, double d1,
+                       eVermaszung mode2, double d2);
+  long lGetAnzahlBeschlaege() const { return static_cast<long>(Beschlaege.size()); }
+  /// Fitting `i`, null for a bad index.
+  CMBeschlag* GetBeschlagPtr(long i);
+  const CMBeschlag* GetBeschlagPtr(long i) const;
+
+  // --- drawings --------------------------------------------------------------
+
+  /// Appends the symbol of how the sash opens, by `lGangart` and `lAnschlag`,
+  /// inside the inner contour without extra parts; colour and priority of the
+  /// lines are 0. Only a sash filled with glass has one.
+  ///
+  /// @return whether the list holds any line then; false without glass or inner
+  ///         contour, whatever the list holds.
+  bool GetOeffSymbol(std::vector<CMStrecke>& lines) const;
+
+  /// Appends the picture of the sash alone, seen from inside, hidden lines
+  /// removed, and on request its opening symbol.
+  ///
+  /// Frame parts cover single parts, these glazing bars, these slats, these the
+  /// filling; of equal parts the earlier one runs through. Drawn are the edges of
+  /// the parts that their outlines mark as visible (no mitres and joints), with
+  /// the part's attributes a1 as colour and a3 as priority. Where edges coincide
+  /// (within 0.001) that of the highest priority is drawn, of equals the nearer.
+  ///
+  /// @return whether the list holds any line then; false, with nothing appended,
+  ///         when the picture would have more than a million lines.
+  bool GetFluegelBild2D(std::vector<CMStrecke>& lines, bool bMitOeffnungssymbol) const;
+
   // --- fields ----------------------------------------------------------------
 
   int lForm = eFormRechteck;  ///< shape code, one of `eFluegelFormen`
@@ -263,6 +350,18 @@ class LINTAVO_API CMFensterSatz {
   bool AussenPolygon(Gilt gilt, GEOM2_Polygon& out) const;
   bool InnenPolygon(bool mitZusatzteilen, const GEOM2_Polygon& polygon, GEOM2_Polygon& out) const;
   bool SprossenKontur(GEOM2_Polygon& contour) const;
+  bool KonturLesen(bool mitZusatzteilen, GEOM2_Polygon& contour) const;
+  bool MaszeGlaslichte(bool hori, std::vector<CMStrecke>& masze) const;
+  void SymbolDreh(const XY& tl, const XY& bl, const XY& tr, const XY& br,
+                  const GEOM2_Polygon& contour, std::vector<CMStrecke>& lines) const;
+  void SymbolDreh(const XY& tl, const XY& bl, const XY& tr, const XY& br,
+                  std::vector<CMStrecke>& lines) const;
+  void SymbolKipp(const XY& tl, const XY& bl, const XY& tr, const XY& br,
+                  const GEOM2_Polygon& contour, std::vector<CMStrecke>& lines) const;
+  void SymbolKlapp(const XY& tl, const XY& bl, const XY& tr, const XY& br,
+                   const GEOM2_Polygon& contour, std::vector<CMStrecke>& lines) const;
+  void SymbolRaute(const XY& tl, const XY& bl, const XY& tr, const XY& br,
+                   const GEOM2_Polygon& contour, std::vector<CMStrecke>& lines) const;
   CMBauteil* SprosseAnfuegen(const CMBauteil& vorlage, GEOM2_Achse achse,
                              const GEOM2_Polygon& contour);
   long* KettenEnde(const CMBauteil& part);

@@ -1,0 +1,121 @@
+// Taking coinciding stretches out of edges.
+#include "lintavo/model/Doppelkanten_intern.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <tuple>
+#include <utility>
+
+#include "lintavo/geom/Toleranzen.h"
+#include "lintavo/geom/Vektor_intern.h"
+#include "lintavo/model/Kastenbaum_intern.h"
+#include "lintavo/model/Verdeckung_intern.h"
+
+namespace lintavo {
+namespace {
+
+struct Strecke {
+  XY a;
+  XY b;
+  XY richtung;
+  double laenge = 0.0;
+
+  explicit Strecke(const CMStrecke& s) {
+    s.GetPunkte(a, b);
+    laenge = Abstand(a, b);
+    richtung = Einheit(Differenz(b, a));
+  }
+
+  double Entlang(const XY& p) const { return Skalarprodukt(richtung, Differenz(p, a)); }
+  bool NaheDerGeraden(const XY& p) const {
+    return std::fabs(Kreuzprodukt(richtung, Differenz(p, a))) <= kUeberlagerung;
+  }
+};
+
+/// The stretch of s that t coincides with, inside s; empty (bis <= von) for none.
+Spanne Deckung(const Strecke& s, const Strecke& t) {
+  const Strecke& lang = s.laenge >= t.laenge ? s : t;
+  const Strecke& kurz = s.laenge >= t.laenge ? t : s;
+  if (!lang.NaheDerGeraden(kurz.a) || !lang.NaheDerGeraden(kurz.b)) return {};
+  const auto [von, bis] = std::minmax({s.Entlang(t.a), s.Entlang(t.b)});
+  const Spanne spanne{std::max(von, 0.0), std::min(bis, s.laenge)};
+  const bool deckt = spanne.bis - spanne.von > std::min(kUeberlagerung, 0.5 * kurz.laenge);
+  return deckt ? spanne : Spanne{};
+}
+
+/// What is left of a length without the given stretches.
+std::vector<Spanne> Rest(double laenge, std::vector<Spanne>& ohne) {
+  std::sort(ohne.begin(), ohne.end(),
+            [](const Spanne& s, const Spanne& t) { return s.von < t.von; });
+  ohne.push_back({laenge, laenge});
+  std::vector<Spanne> rest;
+  double ab = 0.0;
+  for (const Spanne& spanne : ohne) {
+    if (spanne.von - ab > kUeberlagerung) rest.push_back({ab, spanne.von});
+    ab = std::max(ab, spanne.bis);
+  }
+  return rest;
+}
+
+/// rang[i] tells how many edges go before edge i.
+std::vector<std::size_t> Vorrang(const std::vector<Bildkante>& kanten) {
+  std::vector<std::size_t> folge(kanten.size());
+  std::iota(folge.begin(), folge.end(), std::size_t{0});
+  const auto schluessel = [&](std::size_t i) {
+    const Bildkante& kante = kanten[i];
+    return std::tuple(-static_cast<double>(kante.strecke.GetPrio()), kante.istFuellung, i);
+  };
+  std::sort(folge.begin(), folge.end(),
+            [&](std::size_t i, std::size_t j) { return schluessel(i) < schluessel(j); });
+  std::vector<std::size_t> rang(kanten.size());
+  for (std::size_t n = 0; n < folge.size(); ++n) rang[folge[n]] = n;
+  return rang;
+}
+
+Kastenbaum BaumDer(const std::vector<Strecke>& strecken) {
+  std::vector<Kasten> kaesten(strecken.size());
+  for (std::size_t i = 0; i < strecken.size(); ++i) {
+    kaesten[i].Erweitern(strecken[i].a);
+    kaesten[i].Erweitern(strecken[i].b);
+  }
+  return Kastenbaum(std::move(kaesten));
+}
+
+}  // namespace
+
+std::vector<CMStrecke> OhneDoppelte(const std::vector<Bildkante>& kanten) {
+  std::vector<Strecke> strecken;
+  strecken.reserve(kanten.size());
+  for (const Bildkante& kante : kanten) strecken.emplace_back(kante.strecke);
+  const Kastenbaum baum = BaumDer(strecken);
+  const std::vector<std::size_t> rang = Vorrang(kanten);
+
+  std::vector<CMStrecke> bild;
+  bild.reserve(kanten.size());
+  std::vector<Spanne> ohne;
+  for (std::size_t i = 0; i < kanten.size(); ++i) {
+    const Strecke& s = strecken[i];
+    Kasten kasten;
+    kasten.Erweitern(s.a);
+    kasten.Erweitern(s.b);
+    ohne.clear();
+    baum.Suchen(kasten.Vergroessert(kUeberlagerung), [&](std::size_t j) {
+      if (rang[j] >= rang[i]) return;
+      const Spanne spanne = Deckung(s, strecken[j]);
+      if (spanne.bis > spanne.von) ohne.push_back(spanne);
+    });
+    if (ohne.empty()) {
+      bild.push_back(kanten[i].strecke);
+      continue;
+    }
+    for (const Spanne& rest : Rest(s.laenge, ohne)) {
+      CMStrecke& stueck = bild.emplace_back(kanten[i].strecke);
+      stueck.SetPunkte(rest.von > 0.0 ? Zwischenpunkt(s.a, s.b, rest.von / s.laenge) : s.a,
+                       rest.bis < s.laenge ? Zwischenpunkt(s.a, s.b, rest.bis / s.laenge) : s.b);
+    }
+  }
+  return bild;
+}
+
+}  // namespace lintavo

@@ -1,0 +1,133 @@
+#include "lintavo/sash/CMBeschlag.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "lintavo/geom/CMStrecke.h"
+#include "lintavo/geom/Toleranzen.h"
+#include "lintavo/sash/CMFensterSatz.h"
+
+namespace {
+
+constexpr double kHundertProzent = 100.0;
+
+// A handle, in drawing units: an eight-sided rosette, from one flat side of which
+// the lever reaches out.
+//      __
+//    /    \_____________
+//    |  p  _____________|
+//    \ __ /
+constexpr double kGriffLaenge = 12.0;
+constexpr double kRosette = 2.0;  // from its middle to a flat side
+constexpr int kRosettenEcken = 8;
+// A hinge: a barrel of three equal knuckles.
+constexpr double kBandLaenge = 8.0;
+constexpr double kBandBreite = 2.0;
+constexpr int kBandGlieder = 3;
+// Half the extent of the cross.
+constexpr double kKreuz = 2.0;
+
+// The distance as a length; one beyond its bound is brought back to it.
+double Laenge(eVermaszung mode, double& abstand, double ganze) {
+  const bool absolut = mode == eVermaszungAbsolut;
+  const double hoechstens = absolut ? ganze : kHundertProzent;
+  if (abstand > hoechstens) abstand = hoechstens;
+  return absolut ? abstand : ganze * abstand / kHundertProzent;
+}
+
+// The frame part that carries a fitting, or null. The template that stands in for
+// parts past the end of the list carries none.
+const CMBauteil* TragendesBauteil(const CMFensterSatz* sash, long part) {
+  if (!sash || part < 0 || static_cast<std::size_t>(part) >= sash->RahmenTeile.size()) {
+    return nullptr;
+  }
+  const CMBauteil* bauteil = sash->GetRahmenBauteilPtr(part);
+  return bauteil && bauteil->IsVorhanden() ? bauteil : nullptr;
+}
+
+// Lines given along a direction (x) and to its left (y), around a point.
+class Zeichnung {
+ public:
+  Zeichnung(const XY& p, double winkel, std::vector<CMStrecke>& lines)
+      : p_(p),
+        c_(std::cos(winkel * lintavo::kRadiantJeGrad)),
+        s_(std::sin(winkel * lintavo::kRadiantJeGrad)),
+        lines_(lines) {}
+
+  void Strich(const XY& a, const XY& b) { lines_.emplace_back(Ort(a), Ort(b)); }
+
+ private:
+  XY Ort(const XY& p) const { return {p_.x + p.x * c_ - p.y * s_, p_.y + p.x * s_ + p.y * c_}; }
+
+  XY p_;
+  double c_;
+  double s_;
+  std::vector<CMStrecke>& lines_;
+};
+
+void ZeichneGriff(Zeichnung& zeichnung) {
+  const double schritt = 2.0 * lintavo::kPi / kRosettenEcken;
+  const double radius = kRosette / std::cos(schritt / 2.0);
+  const auto ecke = [&](int i) {
+    return XY{radius * std::cos((i - 0.5) * schritt), radius * std::sin((i - 0.5) * schritt)};
+  };
+  for (int i = 0; i < kRosettenEcken; ++i) zeichnung.Strich(ecke(i), ecke(i + 1));
+  const double halb = kRosette * std::tan(schritt / 2.0);
+  zeichnung.Strich({kRosette, -halb}, {kGriffLaenge, -halb});
+  zeichnung.Strich({kGriffLaenge, -halb}, {kGriffLaenge, halb});
+  zeichnung.Strich({kGriffLaenge, halb}, {kRosette, halb});
+}
+
+void ZeichneBand(Zeichnung& zeichnung) {
+  const double u = kBandLaenge / 2.0;
+  const double v = kBandBreite / 2.0;
+  zeichnung.Strich({-u, -v}, {u, -v});
+  zeichnung.Strich({-u, v}, {u, v});
+  for (int i = 0; i <= kBandGlieder; ++i) {
+    const double quer = -u + kBandLaenge * i / kBandGlieder;
+    zeichnung.Strich({quer, -v}, {quer, v});
+  }
+}
+
+void ZeichneKreuz(Zeichnung& zeichnung) {
+  zeichnung.Strich({-kKreuz, -kKreuz}, {kKreuz, kKreuz});
+  zeichnung.Strich({-kKreuz, kKreuz}, {kKreuz, -kKreuz});
+}
+
+}  // namespace
+
+bool CMBeschlag::GetPunkt(const CMFensterSatz* sash, XY& p, double& angle) {
+  const CMBauteil* bauteil = TragendesBauteil(sash, lBauteil);
+  GEOM2_Polygon umriss;
+  if (!bauteil || !bauteil->GetUmrissPunkteAchsSegment(0, umriss)) return false;
+  XY a;
+  XY b;
+  umriss.GetKante(0, a, b);
+  const double richtung = std::atan2(b.y - a.y, b.x - a.x);
+  const double c = std::cos(richtung);
+  const double s = std::sin(richtung);
+  const double entlang = Laenge(eMasz1, dAbstand1, umriss.GetKantenLaenge(0));
+  const double quer = Laenge(eMasz2, dAbstand2, bauteil->dBreite);
+  const XY ort{a.x + entlang * c - quer * s, a.y + entlang * s + quer * c};
+  if (!std::isfinite(ort.x) || !std::isfinite(ort.y)) return false;
+  p = ort;
+  angle = richtung * lintavo::kGradJeRadiant;
+  return true;
+}
+
+bool CMBeschlag::GetPunkt(const CMFensterSatz* sash, XY& p) {
+  double angle = 0.0;
+  return GetPunkt(sash, p, angle);
+}
+
+void CMBeschlag::GetZeichnung(std::vector<CMStrecke>& lines, const XY& p, double angle) const {
+  if (!std::isfinite(p.x) || !std::isfinite(p.y) || !std::isfinite(angle)) return;
+  Zeichnung zeichnung(p, angle, lines);
+  if (eTyp == eBeschlagGriff) {
+    ZeichneGriff(zeichnung);
+  } else if (eTyp == eBeschlagBand) {
+    ZeichneBand(zeichnung);
+  } else {
+    ZeichneKreuz(zeichnung);
+  }
+}
