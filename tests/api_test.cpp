@@ -59,6 +59,18 @@ bool HatAussenteile(const std::string& name) {
                      [](const CMBauteil& teil) { return teil.IsZusatzteilAussen(); });
 }
 
+bool IstRechtwinklig(const std::string& name) {
+  const CMFenster fenster = Beispiel(name);
+  const GEOM2_Polygon& umriss = fenster.GetRahmenPtr()->RahmenPolygon;
+  for (int i = 0; i < umriss.GetAnzahl(); ++i) {
+    XY a;
+    XY b;
+    umriss.GetKante(i, a, b);
+    if (std::fabs(a.x - b.x) > 1e-9 && std::fabs(a.y - b.y) > 1e-9) return false;
+  }
+  return true;
+}
+
 class JedeFassade : public testing::TestWithParam<std::string> {};
 
 TEST_P(JedeFassade, BufferAndFileGiveTheWindowBack) {
@@ -96,7 +108,7 @@ TEST_P(JedeFassade, FitsIntoAnOpeningWithAnyReveals) {
     const double wantedHeight = height * 1.04;
     // Where sides are slanted or bent their margins are those of the shape
     // before the fit; fitting again closes in.
-    for (int step = 0; step < 12; ++step) {
+    for (int step = 0; step < (IstRechtwinklig(GetParam()) ? 1 : 12); ++step) {
       ASSERT_EQ(api.SetBreiteHoehe(param, wantedWidth, wantedHeight), 1);
       ASSERT_EQ(api.Berechne(), 1);
     }
