@@ -9,7 +9,9 @@
 # from; libraries only as packages.
 BUILD_PACKAGES=(g++ cmake ninja-build pkgconf zlib1g-dev libpolyclipping-dev libcairo2-dev
   libcli11-dev libgtest-dev libexpat1-dev locales)
-CHECK_PACKAGES=(clang-format)
+CHECK_PACKAGES=(clang-format valgrind)
+WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev googletest)
+WINE_PACKAGES=(wine64)
 
 command_of() {
   case $1 in
