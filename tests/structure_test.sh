@@ -115,11 +115,13 @@ done < <(find lintavo -mindepth 2 -name '*.h')
 
 # Every member of the façade has its function in C, named by the rule at the head
 # of lintavo/lintavo_c.h.
-c_name() { sed -E 's/([a-z])([A-Z])/\1_\2/g; s/.*/\L&/' <<<"$1"; }
-for member in $(sed -n '/^class LINTAVO_API CFeApi/,/^ private:/p' lintavo/api/CFeApi.h |
-  grep -oE '\b[A-Z][A-Za-z]+\(' | grep -vE '^(CFeApi|FreeBuffer)\(' | tr -d '(' | sort -u); do
-  grep -qE "lintavo_(window_)?$(c_name "$member")\(" lintavo/capi/*_c.h ||
-    fault "CFeApi::$member has no function in lintavo/capi"
+members=$(sed -n '/^class LINTAVO_API CFeApi/,/^ private:/p' lintavo/api/CFeApi.h |
+  grep -oE '\b[A-Z][A-Za-z]+\(' | grep -vE '^(CFeApi|FreeBuffer)\(' | tr -d '(' |
+  sed -E 's/([a-z])([A-Z])/\1_\2/g; s/.*/\L&/' | sort -u)
+functions=$(grep -ohE 'lintavo_\w+\(' lintavo/capi/*_c.h |
+  sed -E 's/^lintavo_(window_)?//; s/\($//' | sort -u)
+for member in $(comm -23 <(echo "$members") <(echo "$functions")); do
+  fault "lintavo/capi has no function $member for the façade's member of that name"
 done
 
 # What the front page shows is what is built.
