@@ -1,10 +1,11 @@
 // Dimensions drive the grid, the corners of the frame and the shapes of sashes.
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 
+#include <gtest/gtest.h>
+
 #include "lintavo/model/CMFenster.h"
+
 #include "support/Beispiele.h"
 
 namespace lintavo::test {

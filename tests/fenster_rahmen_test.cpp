@@ -1,9 +1,10 @@
 // The parts of every frame tile the ring between its outer and inner contour.
-#include <gtest/gtest.h>
-
 #include <cmath>
 
+#include <gtest/gtest.h>
+
 #include "lintavo/model/CMFenster.h"
+
 #include "support/Beispiele.h"
 
 namespace lintavo::test {
@@ -182,8 +183,8 @@ TEST(Rahmenteile, NumberingMergesBentRunsButNeverVerticalSides) {
   GEOM2_Polygon polygon;
   polygon.AddPunkt(0.0, 0.0);
   polygon.AddPunkt(100.0, 0.0);
-  polygon.AddPunkt(100.0, 50.0);   // vertical, shorter than the limit
-  polygon.AddPunkt(95.0, 80.0);    // a run that turns by less than 25 degrees
+  polygon.AddPunkt(100.0, 50.0);  // vertical, shorter than the limit
+  polygon.AddPunkt(95.0, 80.0);   // a run that turns by less than 25 degrees
   polygon.AddPunkt(84.0, 100.0);
   polygon.AddPunkt(0.0, 100.0);
   CMFensterSatz satz;
