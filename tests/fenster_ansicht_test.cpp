@@ -228,6 +228,17 @@ TEST_F(Stabwerk, EdgeAlongTheBorderOfANearerPartStays) {
                  {{52.0, 13.3}, {52.0, 66.7}}});
 }
 
+// The second bar passes under the end of the first, its right side exactly below it.
+TEST_F(Stabwerk, EdgeBelowTheEndOfANearerPartStays) {
+  Lege({0.0, 40.0}, {48.0, 40.0});
+  Lege({46.0, 0.0}, {46.0, 80.0});
+  ErwarteStaebe({{{13.3, 38.0}, {48.0, 38.0}},
+                 {{13.3, 42.0}, {48.0, 42.0}},
+                 {{44.0, 13.3}, {44.0, 38.0}},
+                 {{44.0, 42.0}, {44.0, 66.7}},
+                 {{48.0, 13.3}, {48.0, 66.7}}});
+}
+
 // Bars one above the other: 0.0005 apart they share the line between them, and of
 // the longer one's side the rest is drawn; 0.002 apart each has its own.
 TEST_F(Stabwerk, EdgesThatCoincideWithinTheToleranceAreDrawnOnce) {
