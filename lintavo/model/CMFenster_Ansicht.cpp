@@ -67,6 +67,7 @@ std::vector<const CMFensterSatz*> Ebenen(const CMFenster& fenster, int seite) {
   std::sort(ebenen.begin(), ebenen.end(),
             [](const auto& a, const auto& b) { return a.first < b.first; });
   std::vector<const CMFensterSatz*> folge;
+  folge.reserve(ebenen.size());
   for (const auto& ebene : ebenen) folge.push_back(ebene.second);
   return folge;
 }
