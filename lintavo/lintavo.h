@@ -4,6 +4,7 @@
 
 #include "lintavo/api/CFeApi.h"
 #include "lintavo/api/CFeApiPolygon.h"
+#include "lintavo/api/CFeApiStrecken.h"
 #include "lintavo/api/CFeApiWandOeffnungsParameter.h"
 #include "lintavo/geom/CMStrecke.h"
 #include "lintavo/geom/GEOM2_Achse.h"
@@ -30,4 +31,8 @@
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/CMBeschlag.h"
 #include "lintavo/sash/CMFensterSatz.h"
+#include "lintavo/sash/CMFensterSatzBogen.h"
+#include "lintavo/sash/CMFensterSatzEllipse.h"
+#include "lintavo/sash/CMFensterSatzHalbBogen.h"
+#include "lintavo/sash/CMFensterSatzRechteck.h"
 #include "lintavo/sash/CMFuellung.h"

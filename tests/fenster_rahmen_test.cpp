@@ -15,7 +15,7 @@ constexpr double kFlaechenfehler = 1e-9;
 // Points this close to an edge are on no definite side of it.
 constexpr double kRand = 1e-3;
 
-std::vector<GEOM2_Polygon> Umrisse(const CMFensterSatz& satz) {
+std::vector<GEOM2_Polygon> Teile(const CMFensterSatz& satz) {
   std::vector<GEOM2_Polygon> umrisse;
   for (const CMBauteil& teil : satz.RahmenTeile) {
     if (!teil.IsVorhanden()) continue;
@@ -75,7 +75,7 @@ void ErwarteParkett(const CMFensterSatz& satz, const std::string& was) {
   ASSERT_TRUE(satz.ErzeugeRahmenInnenPolygon(false, innen)) << was;
   const GEOM2_Polygon& aussen = satz.RahmenPolygon;
   const double ring = aussen.GetFlaeche() - innen.GetFlaeche();
-  const std::vector<GEOM2_Polygon> teile = Umrisse(satz);
+  const std::vector<GEOM2_Polygon> teile = Teile(satz);
   EXPECT_NEAR(Flaeche(teile), ring, ring * kFlaechenfehler) << was;
   if (innen.GetAnzahl() == aussen.GetAnzahl()) {
     EXPECT_NEAR(Flaeche(Segmente(satz)), ring, ring * kFlaechenfehler) << was << ", segments";
@@ -129,11 +129,8 @@ TEST_P(JedesBeispiel, SashesLieInsideTheFrameOutline) {
   }
 }
 
-std::string TestName(const testing::TestParamInfo<std::string>& info) {
-  return info.param.substr(0, info.param.find('.'));
-}
-
-INSTANTIATE_TEST_SUITE_P(Windows, JedesBeispiel, testing::ValuesIn(BeispielNamen()), TestName);
+INSTANTIATE_TEST_SUITE_P(Windows, JedesBeispiel, testing::ValuesIn(BeispielNamen()),
+                         BeispielTestName);
 
 // A frame whose parts have different widths at a corner: the mitre runs from
 // corner to corner.

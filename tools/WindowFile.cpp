@@ -35,10 +35,12 @@ void LoadWindow(const std::string& path, CFeApi& window) {
   const bool compressed = CFeApi::IsFileCompressed(path.c_str()) == 1;
   const int read =
       compressed ? window.ReadFromCompressedFile(path.c_str()) : window.ReadFromFile(path.c_str());
-  if (read == 1) return;
   const std::string message = LibraryMessage(window);
   if (!message.empty()) Fail(path, message);
-  Fail(path, CanBeOpened(path) ? "this is no macro file" : "the file cannot be opened");
+  if (!CanBeOpened(path)) Fail(path, "the file cannot be opened");
+  // To the library any text is a window, if an empty one; a user has taken the
+  // wrong file.
+  if (read != 1 || window.GetAnzahlFluegel() <= 0) Fail(path, "there is no window in this file");
 }
 
 void FitWindow(const std::string& path, double width, double height, CFeApi& window) {

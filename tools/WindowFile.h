@@ -15,7 +15,8 @@ class CommandError : public std::runtime_error {
 };
 
 /// Reads and calculates a macro file, compressed when its name ends in "cqz".
-/// Throws `CommandError` with the library's own message, which names the file.
+/// Throws `CommandError` with the library's own message, and for a file without
+/// any sash; the text names the file.
 void LoadWindow(const std::string& path, CFeApi& window);
 
 /// Fits the window into an opening without reveals and calculates it anew.

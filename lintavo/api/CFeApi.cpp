@@ -19,13 +19,17 @@ namespace {
 constexpr char kPufferTrenner = '#';
 constexpr int kWagenruecklauf = '\r';
 
-CString PathOf(const char* path) { return CString(path); }
+CString PathOf(const char* path) {
+  return CString(path);
+}
 
 }  // namespace
 
 CFeApi::CFeApi() : pFenster_(Geschuetzt<CMFenster*>(nullptr, [] { return new CMFenster; })) {}
 
-CFeApi::CFeApi(const CFeApi& other) : CFeApi() { *this = other; }
+CFeApi::CFeApi(const CFeApi& other) : CFeApi() {
+  *this = other;
+}
 
 CFeApi& CFeApi::operator=(const CFeApi& other) {
   if (pFenster_ && other.pFenster_) Geschuetzt([&] { *pFenster_ = *other.pFenster_; });
@@ -42,7 +46,9 @@ void CFeApi::DeleteFenster() {
   if (pFenster_) Geschuetzt([&] { pFenster_->Delete(); });
 }
 
-long CFeApi::GetErrorID() const { return pFenster_ ? pFenster_->GetFehler() : -1; }
+long CFeApi::GetErrorID() const {
+  return pFenster_ ? pFenster_->GetFehler() : -1;
+}
 
 long CFeApi::GetErrorMsg(char (&text)[256]) const {
   std::memset(text, 0, sizeof text);
@@ -112,7 +118,7 @@ void CFeApi::WriteToBuffer(long* length, char** buffer) const {
 
 void CFeApi::FreeBuffer(char** buffer) const {
   if (!buffer) return;
-  delete[] *buffer;
+  delete[] * buffer;
   *buffer = nullptr;
 }
 

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "lintavo/api/CFeApiPolygon.h"
+#include "lintavo/api/CFeApiStrecken.h"
 #include "lintavo/api/CFeApiWandOeffnungsParameter.h"
 #include "lintavo/platform/Export.h"
 
@@ -13,6 +14,7 @@ class CMBauteil;
 class CMFenster;
 class CMFensterSatz;
 class CMZusatzMasz;
+class CString;
 
 /// Kinds of a sash's filling.
 enum eFeApiFuellArten {
@@ -104,8 +106,8 @@ class LINTAVO_API CFeApi {
 
   // --- the frame ----------------------------------------------------------
 
-  double GetRahmenBreite() const;  ///< width of the first frame part, 0.0 without one
-  double GetRahmenDicke() const;   ///< thickness of the first frame part, 0.0 without one
+  double GetRahmenBreite() const;        ///< width of the first frame part, 0.0 without one
+  double GetRahmenDicke() const;         ///< thickness of the first frame part, 0.0 without one
   int SetRahmenBreite(double width);     ///< all frame parts; width at least 1e-6
   int SetRahmenDicke(double thickness);  ///< all frame parts; thickness at least 1e-6
   /// Number of frame components of kind 1 or 2 that have a width and a length.
@@ -169,6 +171,46 @@ class LINTAVO_API CFeApi {
   /// The same, with the index of each that was found, else -1.
   int IsZMaszBreiteHoehe(long& h, long& v) const;
 
+  // --- drawings -------------------------------------------------------------
+
+  // In each of these the records handed in are emptied first; 1 on success.
+
+  /// The bounding box, widened by the extension lines (`dUeberstand` long) of
+  /// all dimensions.
+  int GetBox(double dUeberstand, double& xmin, double& ymin, double& xmax, double& ymax) const;
+  /// The line of dimension `i`, one segment.
+  int GetZMaszLinie(long i, CFeApiStrecken& linie) const;
+  /// Its two extension lines, each `d` long.
+  int GetZMaszHilfslinien(long i, double d, CFeApiStrecken& linien) const;
+  /// Its two arrowheads, triangles whose tips lie on the ends of the line.
+  int GetZMaszPfeile(long i, double dPfeilLaenge, double dPfeilBreite, CFeApiPolygon& p1,
+                     CFeApiPolygon& p2) const;
+  /// The front view with hidden lines removed, from inside (0) or outside (1).
+  int GetAnsicht(int iVonAussen, CFeApiStrecken& linien) const;
+  /// Sash `i` alone with hidden lines removed, with its opening symbol on request.
+  int GetFluegelAnsicht(long i, int iMitSymbol, CFeApiStrecken& linien) const;
+  /// The opening symbol of sash `i`; 0 for a sash that shows none.
+  int GetFluegelOeffnungsSymbol(long i, CFeApiStrecken& linien) const;
+  /// Short texts of a sash's opening kind ("DK"), hinge side ("Li") and opening
+  /// side ("In"). Return the number of bytes copied, 0 for a bad index.
+  long GetFluegelGangart(long i, char (&text)[256]) const;
+  long GetFluegelAnschlag(long i, char (&text)[256]) const;
+  long GetFluegelOeffSeite(long i, char (&text)[256]) const;
+  /// Contour of the filling of sash `i`.
+  int GetFluegelFuellungUmriss(long i, CFeApiPolygon& umriss) const;
+  /// Number of slats, and the outline of one.
+  long GetFluegelAnzahlLamellen(long i) const;
+  int GetFluegelLamellenUmriss(long i, long j, CFeApiPolygon& umriss) const;
+  /// Clear glass dimensions between the axes of the bars, from left to right
+  /// and from bottom to top.
+  int GetFluegelGlaslichteHori(long i, CFeApiStrecken& linien) const;
+  int GetFluegelGlaslichteVert(long i, CFeApiStrecken& linien) const;
+  /// Where fitting `j` of sash `i` sits, and its direction in degrees. A
+  /// distance that reaches past its frame part is capped and stored so.
+  int GetBeschlagPunkt(long i, long j, double& x, double& y, double& dWinkel);
+  /// The fitting's drawing in its place.
+  int GetBeschlagZeichnung(long i, long j, CFeApiStrecken& linien);
+
   // --- the wall opening ---------------------------------------------------
 
   /// Outline of the opening that this window fits into.
@@ -187,6 +229,10 @@ class LINTAVO_API CFeApi {
   CMFensterSatz* Fluegel(long i);
   CMZusatzMasz* ZusatzMasz(long i) const;
   int SetzeRahmen(CMFensterSatz* satz, double CMBauteil::*masz, double value);
+  template <class Zeichnen>
+  int FluegelStrecken(long i, CFeApiStrecken& linien, Zeichnen zeichnen) const;
+  long KurzText(long i, char (&text)[256], int CMFensterSatz::*index,
+                CString (*kurzText)(long)) const;
   int SetzeSprosse(long i, long j, double CMBauteil::*masz, double value);
 
   CMFenster* pFenster_ = nullptr;

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <memory>
 
-CFeApiPolygon::CFeApiPolygon(const CFeApiPolygon& other) { *this = other; }
+CFeApiPolygon::CFeApiPolygon(const CFeApiPolygon& other) {
+  *this = other;
+}
 
 CFeApiPolygon& CFeApiPolygon::operator=(const CFeApiPolygon& other) {
   if (this == &other) return *this;
@@ -15,7 +17,9 @@ CFeApiPolygon& CFeApiPolygon::operator=(const CFeApiPolygon& other) {
   return *this;
 }
 
-CFeApiPolygon::~CFeApiPolygon() { Delete(); }
+CFeApiPolygon::~CFeApiPolygon() {
+  Delete();
+}
 
 void CFeApiPolygon::SetOrder(int n) {
   const auto size = static_cast<std::size_t>(std::max(n, 0)) + 1;

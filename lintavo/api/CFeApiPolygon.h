@@ -21,7 +21,7 @@ class LINTAVO_API CFeApiPolygon {
   /// Releases the arrays; count 0, both pointers null.
   void Delete();
 
-  int lAnzahl = 0;         ///< number of points
-  double* pdX = nullptr;   ///< x of every point, owned
-  double* pdY = nullptr;   ///< y of every point, owned
+  int lAnzahl = 0;        ///< number of points
+  double* pdX = nullptr;  ///< x of every point, owned
+  double* pdY = nullptr;  ///< y of every point, owned
 };

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "lintavo/api/CFeApi.h"
-#include "lintavo/api/Polygon_intern.h"
+#include "lintavo/api/Records_intern.h"
 #include "lintavo/api/Schutz_intern.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/model/CMFenster.h"
@@ -23,8 +23,7 @@ constexpr long kArtSprosse = 3;
 
 constexpr long kGanzesBauteil = -1;
 
-const std::vector<CMBauteil>* ListeDerArt(const CMFensterSatz& satz, long lArt,
-                                          bool mitSprossen) {
+const std::vector<CMBauteil>* ListeDerArt(const CMFensterSatz& satz, long lArt, bool mitSprossen) {
   switch (lArt) {
     case kArtRahmenteil:
       return &satz.RahmenTeile;
@@ -57,9 +56,9 @@ const CMBauteil* BauteilDerArt(const CMFensterSatz* satz, long lArt, long i, boo
 
 long AnzahlDerArt(const CMFensterSatz& satz, long lArt, bool mitSprossen) {
   const std::vector<CMBauteil>* liste = ListeDerArt(satz, lArt, mitSprossen);
-  return liste ? static_cast<long>(std::count_if(
-                     liste->begin(), liste->end(),
-                     [](const CMBauteil& bauteil) { return bauteil.IsVorhanden(); }))
+  return liste ? static_cast<long>(
+                     std::count_if(liste->begin(), liste->end(),
+                                   [](const CMBauteil& bauteil) { return bauteil.IsVorhanden(); }))
                : 0;
 }
 
@@ -92,7 +91,9 @@ void SetzeRahmenMasz(CMFensterSatz& satz, double CMBauteil::*masz, double value)
   for (CMBauteil& bauteil : satz.RahmenTeile) bauteil.*masz = value;
 }
 
-bool IstMasz(double value) { return value >= lintavo::kNullLaenge && std::isfinite(value); }
+bool IstMasz(double value) {
+  return value >= lintavo::kNullLaenge && std::isfinite(value);
+}
 
 // A new length takes over the sign of the stored one, which tells the side that
 // the dimension is counted to.
@@ -179,9 +180,13 @@ const CMFensterSatz* CFeApi::Fluegel(long i) const {
   return pFenster_ ? std::as_const(*pFenster_).GetFluegelPtr(i) : nullptr;
 }
 
-CMFensterSatz* CFeApi::Fluegel(long i) { return pFenster_ ? pFenster_->GetFluegelPtr(i) : nullptr; }
+CMFensterSatz* CFeApi::Fluegel(long i) {
+  return pFenster_ ? pFenster_->GetFluegelPtr(i) : nullptr;
+}
 
-long CFeApi::GetAnzahlFluegel() const { return pFenster_ ? pFenster_->GetAnzahlFluegel() : -1; }
+long CFeApi::GetAnzahlFluegel() const {
+  return pFenster_ ? pFenster_->GetAnzahlFluegel() : -1;
+}
 
 long CFeApi::GetFluegelName(long i, char (&name)[256]) const {
   const CMFensterSatz* fluegel = Fluegel(i);
@@ -249,8 +254,8 @@ double CFeApi::GetFluegelBauteilDicke(long lArt, long iFluegel, long i) const {
 }
 
 int CFeApi::GetFluegelBauteilUmriss(long lArt, long iFluegel, long i, long lSegment,
-                                    CFeApiPolygon& umriss, double& dLaenge,
-                                    double& dWinkelAnfang, double& dWinkelEnde) const {
+                                    CFeApiPolygon& umriss, double& dLaenge, double& dWinkelAnfang,
+                                    double& dWinkelEnde) const {
   return Geschuetzt(0, [&] {
     return UmrissVon(BauteilDerArt(Fluegel(iFluegel), lArt, i, true), lSegment, umriss, dLaenge,
                      dWinkelAnfang, dWinkelEnde);

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "lintavo/api/CFeApi.h"
-#include "lintavo/api/Polygon_intern.h"
+#include "lintavo/api/Records_intern.h"
 #include "lintavo/api/Schutz_intern.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/model/CMFenster.h"
@@ -18,12 +18,18 @@ constexpr int kMitSchraege = 1;
 // Presets of the search for the axes in use.
 constexpr long kKleinsterIndexStart = 30000;
 
-bool IstMasz(double value) { return value >= lintavo::kNullLaenge && std::isfinite(value); }
+bool IstMasz(double value) {
+  return value >= lintavo::kNullLaenge && std::isfinite(value);
+}
 
-bool IstNull(double value) { return std::fabs(value) < lintavo::kNullLaenge; }
+bool IstNull(double value) {
+  return std::fabs(value) < lintavo::kNullLaenge;
+}
 
 // Equal in magnitude; the sign is not looked at, on purpose.
-bool GleicherBetrag(double a, double b) { return IstNull(std::fabs(a) - std::fabs(b)); }
+bool GleicherBetrag(double a, double b) {
+  return IstNull(std::fabs(a) - std::fabs(b));
+}
 
 // The margins of an opening, one per direction of an edge, outwards positive.
 struct Raender {
@@ -89,7 +95,9 @@ void SetzeLaenge(CMZusatzMasz& masz, double length) {
   masz.dLaenge = masz.dLaenge < 0.0 ? -length : length;
 }
 
-bool LiegtAuf(int a, int b, long i, long k) { return (a == i && b == k) || (a == k && b == i); }
+bool LiegtAuf(int a, int b, long i, long k) {
+  return (a == i && b == k) || (a == k && b == i);
+}
 
 }  // namespace
 

@@ -34,8 +34,7 @@ void Geschuetzt(Operation operation) noexcept {
 /// a longer text has no terminating zero there. Returns the number copied.
 inline long KopiereText(const CString& text, char (&buffer)[256]) {
   std::memset(buffer, 0, sizeof buffer);
-  const std::size_t count =
-      std::min(static_cast<std::size_t>(text.GetLength()), sizeof buffer);
+  const std::size_t count = std::min(static_cast<std::size_t>(text.GetLength()), sizeof buffer);
   std::memcpy(buffer, text.View().data(), count);
   return static_cast<long>(count);
 }

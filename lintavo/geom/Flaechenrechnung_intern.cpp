@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 #include "lintavo/geom/Ganzzahlraster_intern.h"
 #include "lintavo/geom/Ring_intern.h"
@@ -106,7 +107,7 @@ class Herkunft {
     const XY weg = Differenz(bis, von);
     const double laenge = Betrag(weg);
     constexpr double unmoeglich = std::numeric_limits<double>::infinity();
-    if (!(laenge > 0.0) || Skalarprodukt(weg, Differenz(b, a)) <= 0.0) return unmoeglich;
+    if (!(laenge > 0.0)) return unmoeglich;
     const XY mitte = Zwischenpunkt(a, b, 0.5);
     const double entlang = Skalarprodukt(weg, Differenz(mitte, von)) / laenge;
     if (entlang < -kRundung || entlang > laenge + kRundung) return unmoeglich;
@@ -181,44 +182,57 @@ class Herkunft {
   const Ganzzahlraster& raster_;
 };
 
-/// Splits a path wherever it comes back to a corner.
-Paths AnBeruehrungenTeilen(const Path& pfad) {
+/// Whether p lies within rounding of the inside of ab.
+bool LiegtAuf(const IntPoint& p, const IntPoint& a, const IntPoint& b) {
+  const XY weg = Differenz(AlsXY(b), AlsXY(a));
+  const XY zuP = Differenz(AlsXY(p), AlsXY(a));
+  const double laenge = Betrag(weg);
+  const double entlang = Skalarprodukt(weg, zuP);
+  return entlang > kRundung * laenge && entlang < laenge * (laenge - kRundung) &&
+         std::fabs(Kreuzprodukt(weg, zuP)) <= kRundung * laenge;
+}
+
+/// Makes narrow passages narrower than rounding into touches: corners almost in one place
+/// are put into one, corners almost on an edge are put onto it.
+Path EngstellenSchliessen(Path pfad) {
+  constexpr std::size_t kGroesste = 2000;  // the effort is quadratic
+  const std::size_t n = pfad.size();
+  if (n > kGroesste) return pfad;
+  for (std::size_t i = 0; i < n; ++i) {
+    for (std::size_t j = i + 2; j < n; ++j) {
+      if (i == 0 && j + 1 == n) continue;
+      if (Abstand(AlsXY(pfad[i]), AlsXY(pfad[j])) <= kRundung) pfad[j] = pfad[i];
+    }
+  }
+  Path voll;
+  for (std::size_t i = 0; i < n; ++i) {
+    const IntPoint& a = pfad[i];
+    const IntPoint& b = pfad[(i + 1) % n];
+    const std::size_t erste = voll.size();
+    voll.push_back(a);
+    for (const IntPoint& p : pfad) {
+      if (LiegtAuf(p, a, b)) voll.push_back(p);
+    }
+    std::sort(voll.begin() + static_cast<std::ptrdiff_t>(erste), voll.end(),
+              [&](const IntPoint& p, const IntPoint& q) {
+                return Abstand(AlsXY(a), AlsXY(p)) < Abstand(AlsXY(a), AlsXY(q));
+              });
+  }
+  return voll;
+}
+
+/// A number for every corner of a path, equal for equal places.
+std::vector<std::size_t> Orte(const Path& pfad) {
   std::vector<std::size_t> ordnung(pfad.size());
-  for (std::size_t i = 0; i < pfad.size(); ++i) ordnung[i] = i;
+  std::iota(ordnung.begin(), ordnung.end(), std::size_t{0});
   std::sort(ordnung.begin(), ordnung.end(),
             [&](std::size_t i, std::size_t j) { return Kleiner(pfad[i], pfad[j]); });
-  std::vector<std::size_t> ort(pfad.size());  // equal numbers for equal places
-  bool mehrfach = false;
+  std::vector<std::size_t> orte(pfad.size());
   for (std::size_t k = 0; k < ordnung.size(); ++k) {
     const bool gleich = k > 0 && pfad[ordnung[k]] == pfad[ordnung[k - 1]];
-    ort[ordnung[k]] = gleich ? ort[ordnung[k - 1]] : ordnung[k];
-    mehrfach = mehrfach || gleich;
+    orte[ordnung[k]] = gleich ? orte[ordnung[k - 1]] : ordnung[k];
   }
-  if (!mehrfach) return {pfad};
-
-  Paths teile;
-  std::vector<std::size_t> stapel;
-  std::vector<bool> offen(pfad.size(), false);
-  for (std::size_t i = 0; i < pfad.size(); ++i) {
-    if (offen[ort[i]]) {
-      Path teil;
-      while (ort[stapel.back()] != ort[i]) {
-        teil.push_back(pfad[stapel.back()]);
-        offen[ort[stapel.back()]] = false;
-        stapel.pop_back();
-      }
-      teil.push_back(pfad[stapel.back()]);
-      stapel.pop_back();
-      std::reverse(teil.begin(), teil.end());
-      if (teil.size() > 2) teile.push_back(std::move(teil));
-    }
-    stapel.push_back(i);
-    offen[ort[i]] = true;
-  }
-  Path rest;
-  for (const std::size_t i : stapel) rest.push_back(pfad[i]);
-  teile.push_back(std::move(rest));
-  return teile;
+  return orte;
 }
 
 bool Rechnen(ClipperLib::Clipper& clipper, ClipperLib::ClipType art, Paths& ergebnis) {
@@ -247,44 +261,72 @@ double Breite(const Path& pfad, const Ganzzahlraster& raster) {
   return umfang > 0.0 ? 2 * Ringflaeche(ring) / umfang : 0.0;
 }
 
-}  // namespace
+bool IstZuVerschlungen(const std::vector<Flaechenring>& ringe) {
+  std::vector<Verbindung> kanten;
+  for (const Flaechenring& ring : ringe) {
+    std::vector<XY> orte;
+    for (const Flaechenecke& ecke : ring) orte.push_back(ecke.ort);
+    VerbindungenAnhaengen(orte, kanten.size(), kanten);
+  }
+  return Beruehrungen(kanten, kMaxBeruehrungen).size() > kMaxBeruehrungen;
+}
 
-std::vector<Ergebnisring> FlaecheVereinigen(const std::vector<Flaechenring>& ringe,
-                                            double aufloesung) {
+std::optional<std::vector<Ergebnisring>> Verrechnen(const std::vector<Flaechenring>& ringe,
+                                                    ClipperLib::ClipType art, double aufloesung) {
   Ganzzahlraster raster;
   for (const Flaechenring& ring : ringe) {
     for (const Flaechenecke& ecke : ring) raster.Aufnehmen(ecke.ort);
   }
   std::vector<Ergebnisring> ergebnis;
   if (!raster.Einrichten(aufloesung)) return ergebnis;
+  if (IstZuVerschlungen(ringe)) return std::nullopt;
 
   const Eckenverzeichnis ecken(ringe, raster);
   ClipperLib::Clipper clipper;
-  clipper.PreserveCollinear(true);
+  ClipperLib::PolyType rolle = ClipperLib::ptSubject;
   std::size_t k = 0;
   for (const Flaechenring& ring : ringe) {
     Path pfad;
     for (std::size_t i = 0; i < ring.size(); ++i) pfad.push_back(ecken[k++].ganz);
-    clipper.AddPath(pfad, ClipperLib::ptSubject, true);
+    clipper.AddPath(pfad, rolle, true);
+    if (art == ClipperLib::ctDifference) rolle = ClipperLib::ptClip;
   }
   Paths pfade;
-  if (!Rechnen(clipper, ClipperLib::ctUnion, pfade)) return ergebnis;
+  if (!Rechnen(clipper, art, pfade)) return ergebnis;
   const Herkunft herkunft(ecken, raster);
-  for (const Path& pfad : pfade) {
-    for (const Path& teil : AnBeruehrungenTeilen(pfad)) {
-      if (teil.size() > 2 && ClipperLib::Area(teil) > 0.0) {
-        ergebnis.push_back(herkunft.Zurueck(teil));
-      }
+  for (const Path& gefunden : pfade) {
+    const Path pfad = EngstellenSchliessen(gefunden);
+    for (const std::vector<std::size_t>& nummern : AnBeruehrungenTeilen(Orte(pfad))) {
+      Path teil;
+      for (const std::size_t i : nummern) teil.push_back(pfad[i]);
+      if (ClipperLib::Area(teil) > 0.0) ergebnis.push_back(herkunft.Zurueck(teil));
     }
   }
   return ergebnis;
 }
 
-double GemeinsameBreite(const std::vector<XY>& a, const std::vector<XY>& b, double aufloesung) {
+}  // namespace
+
+std::optional<std::vector<Ergebnisring>> FlaecheVereinigen(const std::vector<Flaechenring>& ringe,
+                                                           double aufloesung) {
+  return Verrechnen(ringe, ClipperLib::ctUnion, aufloesung);
+}
+
+std::optional<std::vector<Ergebnisring>> FlaecheAbziehen(const std::vector<Flaechenring>& ringe,
+                                                         double aufloesung) {
+  return Verrechnen(ringe, ClipperLib::ctDifference, aufloesung);
+}
+
+std::optional<double> GemeinsameBreite(const std::vector<XY>& a, const std::vector<XY>& b,
+                                       double aufloesung) {
   Ganzzahlraster raster;
   for (const XY& p : a) raster.Aufnehmen(p);
   for (const XY& p : b) raster.Aufnehmen(p);
   if (!raster.Einrichten(aufloesung)) return 0.0;
+  std::vector<Verbindung> kanten;
+  VerbindungenAnhaengen(a, 0, kanten);
+  VerbindungenAnhaengen(b, a.size(), kanten);
+  if (Beruehrungen(kanten, kMaxBeruehrungen).size() > kMaxBeruehrungen) return std::nullopt;
   ClipperLib::Clipper clipper;
   clipper.AddPath(Gegenuhrzeigersinn(a, raster), ClipperLib::ptSubject, true);
   clipper.AddPath(Gegenuhrzeigersinn(b, raster), ClipperLib::ptClip, true);

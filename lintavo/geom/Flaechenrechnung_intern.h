@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "lintavo/geom/XY.h"
@@ -33,14 +34,21 @@ using Ergebnisring = std::vector<Ergebnisecke>;
 /// The outer boundaries, counter-clockwise, of the places that the rings wind round at
 /// least once counter-clockwise. A boundary that touches itself in a corner falls into
 /// several. Corners on the line of their neighbours may be among the result. Empty when
-/// there are none, or when a coordinate is beyond kGroessteKoordinate.
+/// there are none, or when a coordinate is beyond kGroessteKoordinate; nothing when more
+/// than kMaxBeruehrungen pairs of edges touch.
 ///
 /// @param aufloesung  what whole numbers must resolve at least.
-std::vector<Ergebnisring> FlaecheVereinigen(const std::vector<Flaechenring>& ringe,
-                                            double aufloesung);
+std::optional<std::vector<Ergebnisring>> FlaecheVereinigen(const std::vector<Flaechenring>& ringe,
+                                                           double aufloesung);
+
+/// The same for the first ring less the places that the others wind round.
+std::optional<std::vector<Ergebnisring>> FlaecheAbziehen(const std::vector<Flaechenring>& ringe,
+                                                         double aufloesung);
 
 /// The width of the widest piece that the insides of two rings, either way round, have in
-/// common: twice its area over its perimeter; 0 when there is none.
-double GemeinsameBreite(const std::vector<XY>& a, const std::vector<XY>& b, double aufloesung);
+/// common: twice its area over its perimeter; 0 when there is none. Nothing when more than
+/// kMaxBeruehrungen pairs of edges touch.
+std::optional<double> GemeinsameBreite(const std::vector<XY>& a, const std::vector<XY>& b,
+                                       double aufloesung);
 
 }  // namespace lintavo

@@ -1,6 +1,7 @@
 // The polygon's offset and clean-up.
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -115,29 +116,55 @@ void SeitenUmkehren(Ecken& ecken) {
   ecken.back().quelle = erste;
 }
 
-/// The pieces that a ring leaves once its loops are cut off, largest first, each starting
-/// as early in the order of the sources as it can. The ring must be counter-clockwise.
-std::vector<Ecken> SchleifenAbschneiden(const Ecken& ecken) {
+/// The pieces that a calculation of areas left.
+std::vector<Ecken> Stuecke(const std::vector<lintavo::Ergebnisring>& ringe) {
+  std::vector<Ecken> stuecke;
+  for (const lintavo::Ergebnisring& ring : ringe) {
+    Ecken stueck;
+    for (const lintavo::Ergebnisecke& ecke : ring) {
+      stueck.push_back({ecke.ort, static_cast<int>(ecke.kante)});
+    }
+    if (stueck.size() >= 3) stuecke.push_back(std::move(stueck));
+  }
+  return stuecke;
+}
+
+bool IstFrueher(const Ecke& a, const Ecke& b) {
+  return a.quelle < b.quelle;
+}
+
+/// The piece with the largest area, of equals the one with the earliest source, in the
+/// orientation asked for and starting at its own earliest source.
+Ecken Groesstes(const std::vector<Ecken>& stuecke, int umlauf) {
+  Ecken groesstes;
+  double flaeche = 0.0;
+  int erste = 0;
+  for (const Ecken& stueck : stuecke) {
+    const double neu = lintavo::Ringflaeche(Orte(stueck));
+    const int neueErste = std::min_element(stueck.begin(), stueck.end(), IstFrueher)->quelle;
+    const bool gleich = std::fabs(neu - flaeche) <= lintavo::kGleicheFlaeche * flaeche;
+    if (groesstes.empty() || (gleich ? neueErste < erste : neu > flaeche)) {
+      groesstes = stueck;
+      flaeche = neu;
+      erste = neueErste;
+    }
+  }
+  if (umlauf < 0) SeitenUmkehren(groesstes);
+  std::rotate(groesstes.begin(), std::min_element(groesstes.begin(), groesstes.end(), IstFrueher),
+              groesstes.end());
+  return groesstes;
+}
+
+lintavo::Flaechenring AlsFlaechenring(const Ecken& ecken) {
   lintavo::Flaechenring ring;
   for (const Ecke& ecke : ecken) ring.push_back({ecke.ort, static_cast<std::size_t>(ecke.quelle)});
-  std::vector<std::pair<double, Ecken>> stuecke;
-  for (const lintavo::Ergebnisring& gefunden : lintavo::FlaecheVereinigen({ring}, kNullLaenge)) {
-    Ecken stueck;
-    std::size_t erste = 0;
-    for (std::size_t k = 0; k < gefunden.size(); ++k) {
-      stueck.push_back({gefunden[k].ort, static_cast<int>(gefunden[k].kante)});
-      if (gefunden[k].ecke < gefunden[erste].ecke) erste = k;
-    }
-    if (stueck.empty()) continue;
-    std::rotate(stueck.begin(), stueck.begin() + static_cast<std::ptrdiff_t>(erste), stueck.end());
-    const double flaeche = lintavo::Ringflaeche(Orte(stueck));
-    stuecke.emplace_back(flaeche, std::move(stueck));
-  }
-  std::stable_sort(stuecke.begin(), stuecke.end(),
-                   [](const auto& a, const auto& b) { return a.first > b.first; });
-  std::vector<Ecken> ergebnis;
-  for (auto& stueck : stuecke) ergebnis.push_back(std::move(stueck.second));
-  return ergebnis;
+  return ring;
+}
+
+/// The pieces that a counter-clockwise ring leaves once its loops are cut off.
+std::vector<Ecken> SchleifenAbschneiden(const Ecken& ecken) {
+  const auto ringe = lintavo::FlaecheVereinigen({AlsFlaechenring(ecken)}, kNullLaenge);
+  return ringe.has_value() ? Stuecke(*ringe) : std::vector<Ecken>{};
 }
 
 /// Whether p lies in the strip that edge ab, moved to its left by tiefe, has swept.
@@ -174,6 +201,81 @@ bool SindBrauchbar(const Ecken& ecken) {
                      [](const Ecke& ecke) { return lintavo::IstBrauchbar(ecke.ort); });
 }
 
+/// The strip that edge i sweeps when a counter-clockwise ring is offset by d, to the
+/// right where d is positive. Its ends are square, but reach to the offset's corner where
+/// the corner opens towards the strip.
+lintavo::Flaechenring Streifen(const std::vector<XY>& ring, std::size_t i, double d) {
+  const std::size_t n = ring.size();
+  const std::size_t j = (i + 1) % n;
+  const XY& a = ring[i];
+  const XY& b = ring[j];
+  XY a2, b2;
+  if (StreckeParallel(a.x, a.y, b.x, b.y, d, kNullLaenge, a2.x, a2.y, b2.x, b2.y) != 1) return {};
+  const auto oeffnet = [&](const XY& davor, const XY& ecke, const XY& danach) {
+    return d * lintavo::Kreuzprodukt(lintavo::Differenz(ecke, davor),
+                                     lintavo::Differenz(danach, ecke)) >
+           0.0;
+  };
+  const XY& davor = ring[(i + n - 1) % n];
+  const XY& danach = ring[(j + 1) % n];
+  if (oeffnet(davor, a, b)) EckeVerschieben(davor, a, b, d, d, a2);
+  if (oeffnet(a, b, danach)) EckeVerschieben(a, b, danach, d, d, b2);
+  if (d > 0.0) return {{a, i}, {a2, i}, {b2, i}, {b, i}};
+  return {{a, i}, {b, i}, {b2, i}, {a2, i}};
+}
+
+/// The offset by one distance for all edges as the outline with the strips of its edges
+/// added or taken away: right for every outline, however many sides vanish and wherever
+/// it falls to pieces. Nothing when the strips are too many to be reckoned with.
+std::optional<std::vector<Ecken>> MitStreifen(const GEOM2_Polygon& polygon, double d, int umlauf) {
+  Ecken ecken;
+  for (int i = 0; i < polygon.GetAnzahl(); ++i) {
+    ecken.push_back({lintavo::Ort(polygon.GetEckpunkt(i)), i});
+  }
+  if (umlauf < 0) SeitenUmkehren(ecken);
+  const std::vector<XY> orte = Orte(ecken);
+  std::vector<lintavo::Flaechenring> ringe{AlsFlaechenring(ecken)};
+  for (std::size_t i = 0; i < orte.size(); ++i) {
+    lintavo::Flaechenring streifen = Streifen(orte, i, umlauf * d);
+    for (lintavo::Flaechenecke& ecke : streifen) {
+      ecke.kante = static_cast<std::size_t>(ecken[i].quelle);
+    }
+    if (!streifen.empty()) ringe.push_back(std::move(streifen));
+  }
+  const auto gefunden = umlauf * d > 0.0 ? lintavo::FlaecheVereinigen(ringe, kNullLaenge)
+                                         : lintavo::FlaecheAbziehen(ringe, kNullLaenge);
+  if (!gefunden.has_value()) return std::nullopt;
+  return Stuecke(*gefunden);
+}
+
+/// Cuts off the loops of an offset by several distances and leaves out the pieces that
+/// are turned inside out twice.
+std::vector<Ecken> OhneSchleifen(Ecken ecken, const GEOM2_Polygon& polygon, const double* abstaende,
+                                 int umlauf) {
+  if (umlauf < 0) SeitenUmkehren(ecken);
+  std::vector<Ecken> stuecke = SchleifenAbschneiden(ecken);
+  std::erase_if(stuecke, [&](const Ecken& stueck) {
+    return IstUeberstrichen(stueck, polygon, abstaende, umlauf);
+  });
+  return stuecke;
+}
+
+bool IstGleichmaessig(const double* abstaende, int anzahl) {
+  return std::all_of(abstaende, abstaende + anzahl, [&](double d) {
+    return std::fabs(d - abstaende[0]) <= lintavo::kParallelSinus;
+  });
+}
+
+/// The vertices of a ring that it cannot do without.
+Ecken Ausgeduennt(const Ecken& ecken, double tol) {
+  const std::vector<double> tolLinie(ecken.size(), tol);
+  Ecken noetig;
+  for (const std::size_t i : lintavo::NoetigeEcken(Orte(ecken), tolLinie, tol)) {
+    noetig.push_back(ecken[i]);
+  }
+  return noetig;
+}
+
 /// Drops the sides that the offset turned round, and cuts off what loops remain.
 Ecken Entschleifen(const Ecken& roh, const GEOM2_Polygon& polygon, const double* abstaende) {
   if (roh.size() < 3) return {};
@@ -185,16 +287,21 @@ Ecken Entschleifen(const Ecken& roh, const GEOM2_Polygon& polygon, const double*
   for (const lintavo::Kettenecke& ecke : kette.ecken) {
     ecken.push_back({ecke.punkt, roh[ecke.seite].quelle});
   }
-  if (ecken.empty() || !SindBrauchbar(ecken)) return {};
-  if (!kette.gedreht && lintavo::IstEinfach(Orte(ecken))) return ecken;
+  if (!SindBrauchbar(ecken)) return {};
+  ecken = Ausgeduennt(ecken, kNullLaenge);
+  if (kette.konvex && ecken.empty()) return {};
+  const bool heil = !kette.gedreht && umlauf * lintavo::Ringflaeche(Orte(ecken)) > 0.0 &&
+                    (kette.konvex || lintavo::IstEinfach(Orte(ecken)));
+  if (heil && (kette.konvex || kette.ecken.size() == roh.size())) return ecken;
 
-  if (umlauf < 0) SeitenUmkehren(ecken);
-  for (Ecken& stueck : SchleifenAbschneiden(ecken)) {
-    if (IstUeberstrichen(stueck, polygon, abstaende, umlauf)) continue;
-    if (umlauf < 0) SeitenUmkehren(stueck);
-    return std::move(stueck);
+  std::optional<std::vector<Ecken>> stuecke;
+  if (IstGleichmaessig(abstaende, polygon.GetAnzahl())) {
+    stuecke = MitStreifen(polygon, abstaende[0], umlauf);
+  } else if (heil && !IstUeberstrichen(ecken, polygon, abstaende, umlauf)) {
+    return ecken;
   }
-  return {};
+  if (!stuecke.has_value()) stuecke = OhneSchleifen(ecken, polygon, abstaende, umlauf);
+  return Groesstes(*stuecke, umlauf);
 }
 
 GEOM2_Polygon AlsPolygon(const Ecken& ecken, const GEOM2_Polygon& quelle) {
@@ -206,20 +313,15 @@ GEOM2_Polygon AlsPolygon(const Ecken& ecken, const GEOM2_Polygon& quelle) {
   return polygon;
 }
 
-/// The vertices of a polygon as a ring without loops; empty when nothing is left.
-Ecken OhneSchleifen(const GEOM2_Polygon& polygon) {
-  Ecken ecken;
-  for (int i = 0; i < polygon.GetAnzahl(); ++i) {
-    ecken.push_back({lintavo::Ort(polygon.GetEckpunkt(i)), i});
-  }
+/// Cuts off loops and folds, then thins out. Rings without loops, the usual ones, are
+/// recognised once they are thinned out.
+Ecken Bereinigt(const Ecken& ecken, double tol, int umlauf) {
   if (!SindBrauchbar(ecken)) return {};
-  if (lintavo::IstEinfach(Orte(ecken))) return ecken;
-  const bool rueckwaerts = polygon.GetFlaeche() < 0.0;
-  if (rueckwaerts) SeitenUmkehren(ecken);
-  std::vector<Ecken> stuecke = SchleifenAbschneiden(ecken);
-  if (stuecke.empty()) return {};
-  if (rueckwaerts) SeitenUmkehren(stuecke.front());
-  return std::move(stuecke.front());
+  Ecken duenn = Ausgeduennt(ecken, tol);
+  if (duenn.empty() || lintavo::IstEinfach(Orte(duenn))) return duenn;
+  Ecken ring = ecken;
+  if (umlauf < 0) SeitenUmkehren(ring);
+  return Ausgeduennt(Groesstes(SchleifenAbschneiden(ring), umlauf), tol);
 }
 
 }  // namespace
@@ -230,16 +332,11 @@ bool GEOM2_Polygon::Bereinigen(double tol) {
 
 bool GEOM2_Polygon::Bereinigen(double tol, bool schleifen) {
   if (GetAnzahl() < 2) return false;
-  const GEOM2_Polygon quelle =
-      schleifen ? AlsPolygon(OhneSchleifen(*this), *this) : std::move(*this);
-  Clear();
-  std::vector<XY> orte;
-  for (int i = 0; i < quelle.GetAnzahl(); ++i) orte.push_back(lintavo::Ort(quelle.GetEckpunkt(i)));
-  const std::vector<double> tolLinie(orte.size(), tol);
-  for (const std::size_t i : lintavo::NoetigeEcken(orte, tolLinie, tol)) {
-    const GEOM2_Eckpunkt& ecke = quelle.GetEckpunkt(static_cast<int>(i));
-    AddPunkt(ecke.x, ecke.y, 0.0, ecke.dWert2, ecke.Attribut);
-  }
+  Ecken ecken;
+  for (int i = 0; i < GetAnzahl(); ++i) ecken.push_back({lintavo::Ort(GetEckpunkt(i)), i});
+  ecken = schleifen ? Bereinigt(ecken, tol, GetFlaeche() < 0.0 ? -1 : 1) : Ausgeduennt(ecken, tol);
+  GEOM2_Polygon neu = AlsPolygon(ecken, *this);
+  *this = std::move(neu);
   return GetAnzahl() >= 3;
 }
 

@@ -10,9 +10,10 @@
 
 namespace lintavo {
 
-/// A grid centred on the points it was made for. Its step is a power of two, so that
-/// scaling rounds nothing. The library is fast while numbers stay below 2^30: larger
-/// ones are used only where that would be too coarse.
+/// A grid centred on the points it was made for. The library is fast while numbers stay
+/// below 2^30: larger ones are used only where that would be too coarse. It also now and
+/// then leaves shapes apart that share a horizontal edge, so the grid is turned by an angle
+/// that no drawing has.
 class Ganzzahlraster {
  public:
   /// Widens the box of what will be mapped.
@@ -32,17 +33,22 @@ class Ganzzahlraster {
     return true;
   }
   ClipperLib::IntPoint Ganz(const XY& p) const {
-    return {std::llround((p.x - mitte_.x) * faktor_), std::llround((p.y - mitte_.y) * faktor_)};
+    const XY q = Mal(Differenz(p, mitte_), faktor_);
+    return {std::llround(q.x * kCos - q.y * kSin), std::llround(q.x * kSin + q.y * kCos)};
   }
   XY Doppelt(const ClipperLib::IntPoint& p) const {
-    return {static_cast<double>(p.X) / faktor_ + mitte_.x,
-            static_cast<double>(p.Y) / faktor_ + mitte_.y};
+    const double x = static_cast<double>(p.X) / faktor_;
+    const double y = static_cast<double>(p.Y) / faktor_;
+    return {x * kCos + y * kSin + mitte_.x, y * kCos - x * kSin + mitte_.y};
   }
   /// Length of one step.
   double Schritt() const { return 1.0 / faktor_; }
 
  private:
+  /// Room for the turned diagonal below 2^30.
   static constexpr int kSchnelleBits = 29;
+  static constexpr double kCos = 0.9319652640707048;  // of 0.371 radians
+  static constexpr double kSin = 0.3625475783474792;
   /// Finer steps than 2^-30 tell nothing apart that is not the same corner.
   static constexpr int kFeinsteStufe = 30;
 

@@ -3,7 +3,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <utility>
 
+#include "lintavo/geom/Aussenlauf_intern.h"
 #include "lintavo/geom/Fangen_intern.h"
 #include "lintavo/geom/Flaechenrechnung_intern.h"
 #include "lintavo/geom/Ring_intern.h"
@@ -15,8 +18,6 @@ namespace {
 
 /// Steps of the whole-number grid per tolerance.
 constexpr double kSchritteJeToleranz = 64.0;
-/// Areas that differ by less than this share are equal: the earlier shape decides.
-constexpr double kGleicheFlaeche = 1e-9;
 
 /// The shapes taken apart: all vertices in a row, and per shape its counter-clockwise
 /// ring and, beside it, the vertex at which each ring edge starts as handed in.
@@ -76,6 +77,35 @@ class Vereinigung {
   }
 
   GEOM2_Polygon Umriss() const {
+    const std::optional<std::vector<Ergebnisring>> umlaeufe = AussenUmlaufen(Plaetze(), Kanten());
+    if (umlaeufe.has_value()) return AlsPolygon(Groesster(*umlaeufe));
+    const std::optional<std::vector<Ergebnisring>> flaechen =
+        FlaecheVereinigen(Ringe(), tol_ / kSchritteJeToleranz);
+    return flaechen.has_value() ? AlsPolygon(Groesster(*flaechen)) : GEOM2_Polygon();
+  }
+
+ private:
+  std::vector<XY> Plaetze() const {
+    std::vector<XY> plaetze;
+    plaetze.reserve(formen_.ecken.size());
+    for (const Formecke& ecke : formen_.ecken) plaetze.push_back(ecke.ort);
+    return plaetze;
+  }
+
+  std::vector<Umrisskante> Kanten() const {
+    std::vector<Umrisskante> kanten;
+    kanten.reserve(ecken_.size());
+    for (const std::vector<Fangecke>& ring : fang_.ringe) {
+      for (std::size_t k = 0; k < ring.size(); ++k) {
+        const Fangecke& danach = ring[k + 1 == ring.size() ? 0 : k + 1];
+        kanten.push_back({ring[k].ort, danach.ort, kanten.size(), ring[k].kante,
+                          formen_.ecken[ring[k].kante].form});
+      }
+    }
+    return kanten;
+  }
+
+  std::vector<Flaechenring> Ringe() const {
     std::vector<Flaechenring> ringe;
     for (const std::vector<Fangecke>& gefangen : fang_.ringe) {
       if (gefangen.empty()) continue;
@@ -86,11 +116,9 @@ class Vereinigung {
       }
       ringe.push_back(std::move(ring));
     }
-    const std::vector<Ergebnisring> gefunden = FlaecheVereinigen(ringe, tol_ / kSchritteJeToleranz);
-    return AlsPolygon(Groesster(gefunden));
+    return ringe;
   }
 
- private:
   std::size_t Platz(const Ergebnisecke& ecke) const {
     return ecke.ecke == kKeine ? kKeine : ecken_[ecke.ecke].ort;
   }
@@ -101,11 +129,13 @@ class Vereinigung {
     return erster;
   }
 
+  /// The one with the largest area; of equals the one with the earliest vertex.
   Ergebnisring Groesster(const std::vector<Ergebnisring>& ringe) const {
     const Ergebnisring* groesster = nullptr;
     double flaeche = 0.0;
     for (const Ergebnisring& ring : ringe) {
       const double neu = Ringflaeche(Orte(ring));
+      if (!(neu > 0.0)) continue;
       const bool gleich = std::fabs(neu - flaeche) <= kGleicheFlaeche * flaeche;
       if (groesster == nullptr ||
           (gleich ? ErsterPlatz(ring) < ErsterPlatz(*groesster) : neu > flaeche)) {

@@ -23,6 +23,6 @@
 /// @param box      xmin, ymin, xmax, ymax of all vertices of all shapes; starts at +1e30
 ///                 and -1e30 and stays there where there are none.
 /// @return false without any outline: no shapes, no area, coordinates that are not
-///         finite or beyond 1e9.
+///         finite or beyond 1e9, more than 300,000 pairs of crossing edges.
 LINTAVO_API bool bPolygoneAddieren(const std::vector<GEOM2_Polygon>& polygone,
                                    GEOM2_Polygon& umriss, double tol, double box[4]);

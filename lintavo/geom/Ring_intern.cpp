@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <unordered_set>
+#include <utility>
 
 #include "lintavo/geom/Vektor_intern.h"
 
@@ -67,6 +69,7 @@ class Ausduennung {
       Aushaengen(i, std::max(glied.abweichung, glieder_[glied.davor].abweichung) + tolDeckung_);
       return true;
     }
+    if (Abstand(p, ring_[i]) <= tolDeckung_) return false;  // p itself goes, being earlier
     if (Abstand(p, n) <= tolDeckung_) {
       glieder_[i].spitze = true;
       Aushaengen(i, 0.0);
@@ -115,36 +118,41 @@ class Ausduennung {
   std::size_t anzahl_ = 0;
 };
 
-/// An edge of a ring with its extent in x.
-struct Ringkante {
-  XY a;
-  XY b;
+/// An edge with its extent in x.
+struct Spanne {
+  std::size_t kante;
   double links;
   double rechts;
-  std::size_t nr;
 };
 
-int Seite(const XY& a, const XY& b, const XY& p) {
+/// +1 when p lies left of ab, -1 when it lies right of it, 0 within tol or rounding.
+int Seite(const XY& a, const XY& b, const XY& p, double tol = 0.0) {
   const XY weg = Differenz(b, a);
   const XY zuP = Differenz(p, a);
   const double flaeche = Kreuzprodukt(weg, zuP);
   const double rauschen = kParallelSinus * (std::fabs(weg.x * zuP.y) + std::fabs(weg.y * zuP.x));
-  return flaeche > rauschen ? 1 : flaeche < -rauschen ? -1 : 0;
+  const double grenze = tol > 0.0 ? std::max(rauschen, tol * Betrag(weg)) : rauschen;
+  return flaeche > grenze ? 1 : flaeche < -grenze ? -1 : 0;
 }
 
-bool HoehenUeberlappen(const Ringkante& s, const Ringkante& t) {
-  return std::max(s.a.y, s.b.y) >= std::min(t.a.y, t.b.y) &&
-         std::max(t.a.y, t.b.y) >= std::min(s.a.y, s.b.y);
+bool HoehenUeberlappen(const Verbindung& s, const Verbindung& t, double tol) {
+  return std::max(s.a.y, s.b.y) + tol >= std::min(t.a.y, t.b.y) &&
+         std::max(t.a.y, t.b.y) + tol >= std::min(s.a.y, s.b.y);
 }
 
-bool KantenBeruehren(const Ringkante& s, const Ringkante& t) {
-  return HoehenUeberlappen(s, t) && Seite(s.a, s.b, t.a) * Seite(s.a, s.b, t.b) <= 0 &&
-         Seite(t.a, t.b, s.a) * Seite(t.a, t.b, s.b) <= 0;
+/// Whether two edges that start in one place go the same way.
+bool LiegenAufeinander(const XY& ort, const XY& p, const XY& q, double tol) {
+  return Seite(ort, p, q, tol) == 0 && Skalarprodukt(Differenz(p, ort), Differenz(q, ort)) > 0.0;
 }
 
-/// Whether the corner b between two edges folds back onto the first one.
-bool IstFalte(const XY& a, const XY& b, const XY& c) {
-  return Seite(a, b, c) == 0 && Skalarprodukt(Differenz(b, a), Differenz(c, b)) < 0.0;
+bool KantenBeruehren(const Verbindung& s, const Verbindung& t, double tol) {
+  if (!HoehenUeberlappen(s, t, tol)) return false;
+  if (s.von == t.von) return LiegenAufeinander(s.a, s.b, t.b, tol);
+  if (s.von == t.nach) return LiegenAufeinander(s.a, s.b, t.a, tol);
+  if (s.nach == t.von) return LiegenAufeinander(s.b, s.a, t.b, tol);
+  if (s.nach == t.nach) return LiegenAufeinander(s.b, s.a, t.a, tol);
+  return Seite(s.a, s.b, t.a, tol) * Seite(s.a, s.b, t.b, tol) <= 0 &&
+         Seite(t.a, t.b, s.a, tol) * Seite(t.a, t.b, s.b, tol) <= 0;
 }
 
 /// Turning one way only and coming round once: a ring like that needs no search.
@@ -166,19 +174,6 @@ bool IstKonvex(const std::vector<XY>& ring) {
   return wechsel <= 2;
 }
 
-std::vector<Ringkante> NachLinksGeordnet(const std::vector<XY>& ring) {
-  std::vector<Ringkante> kanten;
-  kanten.reserve(ring.size());
-  for (std::size_t i = 0; i < ring.size(); ++i) {
-    const XY& a = ring[i];
-    const XY& b = ring[i + 1 == ring.size() ? 0 : i + 1];
-    kanten.push_back({a, b, std::min(a.x, b.x), std::max(a.x, b.x), i});
-  }
-  std::sort(kanten.begin(), kanten.end(),
-            [](const Ringkante& s, const Ringkante& t) { return s.links < t.links; });
-  return kanten;
-}
-
 }  // namespace
 
 std::vector<std::size_t> NoetigeEcken(const std::vector<XY>& ring,
@@ -186,22 +181,73 @@ std::vector<std::size_t> NoetigeEcken(const std::vector<XY>& ring,
   return Ausduennung(ring, tolLinie, tolDeckung).Ausfuehren();
 }
 
-bool IstEinfach(const std::vector<XY>& ring) {
-  const std::size_t n = ring.size();
-  if (n < 3) return false;
-  if (IstKonvex(ring)) return true;
-  for (std::size_t i = 0; i < n; ++i) {
-    if (IstFalte(ring[i], ring[(i + 1) % n], ring[(i + 2) % n])) return false;
+std::vector<std::pair<std::size_t, std::size_t>> Beruehrungen(const std::vector<Verbindung>& kanten,
+                                                              std::size_t hoechstens, double tol) {
+  std::vector<Spanne> spannen;
+  spannen.reserve(kanten.size());
+  for (std::size_t i = 0; i < kanten.size(); ++i) {
+    const Verbindung& k = kanten[i];
+    spannen.push_back({i, std::min(k.a.x, k.b.x), std::max(k.a.x, k.b.x)});
   }
-  const std::vector<Ringkante> kanten = NachLinksGeordnet(ring);
-  for (std::size_t i = 0; i < n; ++i) {
-    for (std::size_t j = i + 1; j < n && kanten[j].links <= kanten[i].rechts; ++j) {
-      const std::size_t weit = (kanten[i].nr + n - kanten[j].nr) % n;
-      if (weit == 1 || weit == n - 1) continue;
-      if (KantenBeruehren(kanten[i], kanten[j])) return false;
+  std::sort(spannen.begin(), spannen.end(),
+            [](const Spanne& s, const Spanne& t) { return s.links < t.links; });
+  std::vector<std::pair<std::size_t, std::size_t>> paare;
+  for (std::size_t i = 0; i < spannen.size(); ++i) {
+    for (std::size_t j = i + 1; j < spannen.size() && spannen[j].links <= spannen[i].rechts + tol;
+         ++j) {
+      if (!KantenBeruehren(kanten[spannen[i].kante], kanten[spannen[j].kante], tol)) continue;
+      paare.emplace_back(spannen[i].kante, spannen[j].kante);
+      if (paare.size() > hoechstens) return paare;
     }
   }
-  return true;
+  return paare;
+}
+
+void VerbindungenAnhaengen(const std::vector<XY>& ring, std::size_t ersterOrt,
+                           std::vector<Verbindung>& kanten) {
+  for (std::size_t i = 0; i < ring.size(); ++i) {
+    const std::size_t j = i + 1 == ring.size() ? 0 : i + 1;
+    kanten.push_back({ring[i], ring[j], ersterOrt + i, ersterOrt + j});
+  }
+}
+
+bool IstEinfach(const std::vector<XY>& ring) {
+  if (ring.size() < 3) return false;
+  if (IstKonvex(ring)) return true;
+  std::vector<Verbindung> kanten;
+  kanten.reserve(ring.size());
+  VerbindungenAnhaengen(ring, 0, kanten);
+  return Beruehrungen(kanten, 0, kNullLaenge).empty();
+}
+
+std::vector<std::vector<std::size_t>> AnBeruehrungenTeilen(const std::vector<std::size_t>& orte) {
+  std::vector<std::size_t> geordnet = orte;
+  std::sort(geordnet.begin(), geordnet.end());
+  if (std::adjacent_find(geordnet.begin(), geordnet.end()) == geordnet.end()) {
+    std::iota(geordnet.begin(), geordnet.end(), std::size_t{0});
+    return {std::move(geordnet)};
+  }
+  std::vector<std::vector<std::size_t>> teile;
+  std::vector<std::size_t> stapel;
+  std::unordered_set<std::size_t> offen;
+  const auto abheben = [&](std::size_t bisOrt) {
+    std::vector<std::size_t> teil;
+    while (!stapel.empty()) {
+      teil.push_back(stapel.back());
+      stapel.pop_back();
+      offen.erase(orte[teil.back()]);
+      if (orte[teil.back()] == bisOrt) break;
+    }
+    std::reverse(teil.begin(), teil.end());
+    if (teil.size() > 2) teile.push_back(std::move(teil));
+  };
+  for (std::size_t i = 0; i < orte.size(); ++i) {
+    if (offen.count(orte[i]) > 0) abheben(orte[i]);
+    stapel.push_back(i);
+    offen.insert(orte[i]);
+  }
+  if (!stapel.empty()) abheben(orte[stapel.front()]);
+  return teile;
 }
 
 double Ringflaeche(const std::vector<XY>& ring) {

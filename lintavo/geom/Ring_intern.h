@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "lintavo/geom/XY.h"
@@ -21,8 +22,35 @@ namespace lintavo {
 std::vector<std::size_t> NoetigeEcken(const std::vector<XY>& ring,
                                       const std::vector<double>& tolLinie, double tolDeckung);
 
-/// True when no two edges of the ring touch except neighbours in their common corner.
+/// An edge between two numbered places.
+struct Verbindung {
+  XY a;
+  XY b;
+  std::size_t von = 0;
+  std::size_t nach = 0;
+};
+
+/// More touching pairs of edges than this are no drawing: the effort of cutting them all
+/// grows out of proportion, so operations on areas give up instead.
+inline constexpr std::size_t kMaxBeruehrungen = 300'000;
+
+/// The pairs of edges, by index, that come within tol of each other, an end place with the
+/// same number apart; stops when there are more than hoechstens. tol 0 leaves rounding.
+std::vector<std::pair<std::size_t, std::size_t>> Beruehrungen(const std::vector<Verbindung>& kanten,
+                                                              std::size_t hoechstens,
+                                                              double tol = 0.0);
+
+/// The edges of a ring; its places are numbered from ersterOrt on.
+void VerbindungenAnhaengen(const std::vector<XY>& ring, std::size_t ersterOrt,
+                           std::vector<Verbindung>& kanten);
+
+/// True when no two edges of the ring come within 1e-6 of each other, except neighbours in
+/// their common corner.
 bool IstEinfach(const std::vector<XY>& ring);
+
+/// Splits a closed walk over numbered places wherever it comes back to a place: each part
+/// holds indices into orte. Parts with fewer than 3 corners are left out.
+std::vector<std::vector<std::size_t>> AnBeruehrungenTeilen(const std::vector<std::size_t>& orte);
 
 /// Signed area, positive for counter-clockwise order.
 double Ringflaeche(const std::vector<XY>& ring);

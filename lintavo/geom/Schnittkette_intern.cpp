@@ -141,6 +141,7 @@ GeschlosseneKette VerschwundeneSeitenLoeschen(const std::vector<Kettenseite>& se
     umdrehung += umlauf * kette.Wendung(i);
   }
   konvex = konvex && umdrehung < 3 * kPi;
+  ergebnis.konvex = konvex;
   std::vector<std::size_t> offen(n);
   for (std::size_t i = 0; i < n; ++i) offen[i] = n - 1 - i;
   while (!offen.empty()) {

@@ -48,6 +48,7 @@ struct Kettenecke {
 /// What is left of a closed chain.
 struct GeschlosseneKette {
   std::vector<Kettenecke> ecken;  ///< in order; empty when the outline vanished
+  bool konvex = false;            ///< the outline turns one way only, once round
   bool gedreht = false;           ///< turned sides remain that no two neighbours imply (never for
                                   ///< convex outlines): the ring has loops
 };

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <vector>
 
 #include "lintavo/geom/Flaechenrechnung_intern.h"
 #include "lintavo/geom/Toleranzen.h"
@@ -50,7 +52,9 @@ bool SeitenDecken(const XY& a1, const XY& a2, const XY& b1, const XY& b2) {
 bool PolygoneUeberlappen(const GEOM2_Polygon& a, const GEOM2_Polygon& b, double tol) {
   if (a.GetAnzahl() < 3 || b.GetAnzahl() < 3 || !BoxenUeberlappen(a, b)) return false;
   const double breite = tol >= kKleinsteBreite ? tol : kKleinsteBreite;
-  return GemeinsameBreite(Punkte(a), Punkte(b), breite / kSchritteJeToleranz) > breite;
+  const std::optional<double> gemeinsam =
+      GemeinsameBreite(Punkte(a), Punkte(b), breite / kSchritteJeToleranz);
+  return !gemeinsam.has_value() || *gemeinsam > breite;
 }
 
 }  // namespace lintavo

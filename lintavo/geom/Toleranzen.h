@@ -37,6 +37,9 @@ inline constexpr double kSenkrechteSteigung = 1e10;
 /// Twice the signed area above which a ring is counter-clockwise.
 inline constexpr double kOrientierung = 1e-6;
 
+/// Share by which two areas may differ and still be equal.
+inline constexpr double kGleicheFlaeche = 1e-9;
+
 /// Start value of a bounding box that has not met a point yet.
 inline constexpr double kLeereBox = 1e30;
 /// Coordinates beyond this are no drawing; operations that need whole numbers or

@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 #include "lintavo/platform/CaseFold_intern.h"
 #include "lintavo/platform/Files_intern.h"

@@ -83,9 +83,9 @@ class LINTAVO_API CIniFile {
   /// section. Always 1. When the section is new, the caller's text of it is
   /// trimmed at both ends.
   ///
-  /// Meant for filling a fresh document in the order of the file: a key that
-  /// was added to a section is not found again, and added twice, until another
-  /// section has been worked with.
+  /// Meant for filling a fresh document in the order of the file: the entries
+  /// last added to a section are not found, and so added twice or read as
+  /// missing, until another section has been worked with.
   int SetString(CString& section, const CString& key, const CString& value);
 
   /// Store a number, rounded to six decimals, as plain decimal text with a

@@ -6,6 +6,13 @@
 using lintavo::FormatNumber;
 using lintavo::ParseNumber;
 
+namespace {
+
+// Flags are written as 1 and 0; a 1 that lost its last decimals is still one.
+constexpr double kTrueAbove = 0.99;
+
+}  // namespace
+
 // The text of an entry that holds numbers; empty when it or its section is
 // missing. Unlike GetString: lines before the first header answer for no
 // section, and the text is not trimmed.
@@ -40,7 +47,7 @@ int CIniFile::GetLong(const CString& section, const CString& key, long& v) {
 int CIniFile::GetBool(const CString& section, const CString& key, bool& v) {
   double value = 0.0;
   if (GetDouble(section, key, value) == 0) return 0;
-  v = value > 0.99;
+  v = value > kTrueAbove;
   return 1;
 }
 

@@ -77,14 +77,26 @@ void SaveAxes(CIniFile& document, lintavo::StringId prefix, const Achsen& achsen
 
 }  // namespace
 
-void CMAchsen::SetAchsAbstX(int j, double d) { SetDistance(vertikal_, j, d); }
-void CMAchsen::SetAchsAbstY(int k, double d) { SetDistance(horizontal_, k, d); }
+void CMAchsen::SetAchsAbstX(int j, double d) {
+  SetDistance(vertikal_, j, d);
+}
+void CMAchsen::SetAchsAbstY(int k, double d) {
+  SetDistance(horizontal_, k, d);
+}
 
-void CMAchsen::SetAchseHori(int k, bool fest) { SetFixed(horizontal_, k, fest); }
-void CMAchsen::SetAchseVerti(int j, bool fest) { SetFixed(vertikal_, j, fest); }
+void CMAchsen::SetAchseHori(int k, bool fest) {
+  SetFixed(horizontal_, k, fest);
+}
+void CMAchsen::SetAchseVerti(int j, bool fest) {
+  SetFixed(vertikal_, j, fest);
+}
 
-bool CMAchsen::IsHoriFest(int k) const { return IsFixed(horizontal_, k); }
-bool CMAchsen::IsVertiFest(int j) const { return IsFixed(vertikal_, j); }
+bool CMAchsen::IsHoriFest(int k) const {
+  return IsFixed(horizontal_, k);
+}
+bool CMAchsen::IsVertiFest(int j) const {
+  return IsFixed(vertikal_, j);
+}
 
 void CMAchsen::AlleVerschiebungenZulassen(bool zulassen) {
   for (CMAchsInfo& achse : vertikal_) achse.Set(!zulassen);
@@ -96,14 +108,26 @@ void CMAchsen::Delete() {
   horizontal_.clear();
 }
 
-double CMAchsen::dGetPosVerti(int j) const { return PositionOrZero(vertikal_, j); }
-double CMAchsen::dGetPosHori(int k) const { return PositionOrZero(horizontal_, k); }
+double CMAchsen::dGetPosVerti(int j) const {
+  return PositionOrZero(vertikal_, j);
+}
+double CMAchsen::dGetPosHori(int k) const {
+  return PositionOrZero(horizontal_, k);
+}
 
-double CMAchsen::dGetGridSizeX() const { return Position(vertikal_, iGetCntVerti() - 1); }
-double CMAchsen::dGetGridSizeY() const { return Position(horizontal_, iGetCntHori() - 1); }
+double CMAchsen::dGetGridSizeX() const {
+  return Position(vertikal_, iGetCntVerti() - 1);
+}
+double CMAchsen::dGetGridSizeY() const {
+  return Position(horizontal_, iGetCntHori() - 1);
+}
 
-double CMAchsen::dGetAchsAbstX(int j) const { return DistanceToPrevious(vertikal_, j); }
-double CMAchsen::dGetAchsAbstY(int k) const { return DistanceToPrevious(horizontal_, k); }
+double CMAchsen::dGetAchsAbstX(int j) const {
+  return DistanceToPrevious(vertikal_, j);
+}
+double CMAchsen::dGetAchsAbstY(int k) const {
+  return DistanceToPrevious(horizontal_, k);
+}
 
 void CMAchsen::GetPunkt(int j, int k, XY& p) const {
   p.x = PositionClamped(vertikal_, j);

@@ -46,7 +46,9 @@ void CMBauteil::SetAbschittsTypen(long anfang, long ende) {
   cAbschnittsTypEnde = AbschnittsTyp(ende);
 }
 
-bool CMBauteil::GetAchspunkte(XY& a, XY& b) const { return GetAchspunkte(0, a, b); }
+bool CMBauteil::GetAchspunkte(XY& a, XY& b) const {
+  return GetAchspunkte(0, a, b);
+}
 
 bool CMBauteil::GetAchspunkte(long i, XY& a, XY& b) const {
   if (i < 0 || i >= lGetAnzAchsen()) return false;
@@ -101,8 +103,9 @@ void CMBauteil::Verlaengern(double anfang, double ende) {
   const double winkel = achse.dWinkel * lintavo::kPi / 180.0;
   const XY richtung{std::cos(winkel), std::sin(winkel)};
   const XY b = Endpunkt(achse);
-  GEOM2_Polygon::SetAchse({achse.Start.x - anfang * richtung.x, achse.Start.y - anfang * richtung.y},
-                          {b.x + ende * richtung.x, b.y + ende * richtung.y}, achse);
+  GEOM2_Polygon::SetAchse(
+      {achse.Start.x - anfang * richtung.x, achse.Start.y - anfang * richtung.y},
+      {b.x + ende * richtung.x, b.y + ende * richtung.y}, achse);
 }
 
 void CMBauteil::Drehen(double winkel) {

@@ -12,11 +12,11 @@
 
 /// Kinds of components, the values of `CMBauteil::lTyp`.
 enum eBauteilTypen : long {
-  eRahmenteil = 0,         ///< frame part, mullion or transom
-  eSprosse = 1,            ///< glazing bar
-  eZusatzteilInnen = 2,    ///< inner extra part
-  eZusatzteilAussen = 3,   ///< outer extra part
-  eLamelle = 4             ///< slat
+  eRahmenteil = 0,        ///< frame part, mullion or transom
+  eSprosse = 1,           ///< glazing bar
+  eZusatzteilInnen = 2,   ///< inner extra part
+  eZusatzteilAussen = 3,  ///< outer extra part
+  eLamelle = 4            ///< slat
 };
 
 /// Where a section lies relative to its axis, the values of
@@ -100,22 +100,22 @@ class LINTAVO_API CMBauteil {
   /// 1 or when a key is negative. True when it was ordered.
   static bool Ordnen(std::vector<CMBauteil>& bauteile, bool bAufsteigend);
 
-  long lTyp = eRahmenteil;         ///< one of `eBauteilTypen`
-  long lLage = eLageMitte;         ///< one of `eBauteilLagen`
+  long lTyp = eRahmenteil;  ///< one of `eBauteilTypen`
+  long lLage = eLageMitte;  ///< one of `eBauteilLagen`
   std::vector<GEOM2_Achse> Achsen;
-  double dDicke = 4.0;             ///< section dimension along the view
-  double dBreite = 6.0;            ///< section width across the axis
+  double dDicke = 4.0;               ///< section dimension along the view
+  double dBreite = 6.0;              ///< section width across the axis
   long lAttribut[4] = {2, 2, 1, 1};  ///< display attributes a1 to a4
-  double dBreite2 = 0.0;           ///< second width: the overlap of a sash's part
-  double dWert = 0.0;              ///< carried for the callers
-  long lSeite = -1;                ///< side of the frame polygon of an extra part
-  long lKette = -1;                ///< index of the next extra part of the chain
-  int cAbschnittsTypAnfang = 0;    ///< section-end type at the start, 0..4
-  int cAbschnittsTypEnde = 0;      ///< section-end type at the end, 0..4
-  CMKnoten kAnfang;                ///< node at the start
-  CMKnoten kEnde;                  ///< node at the end
-  long lSprossenBild = -1;         ///< number of the pattern that made the bar
-  long lReferenz = -1;             ///< carried for the callers
-  long lReihenfolge = 0;           ///< ordering key of `Ordnen`
-  double dUeberBreite = 0.0;       ///< extra width of the outline
+  double dBreite2 = 0.0;             ///< second width: the overlap of a sash's part
+  double dWert = 0.0;                ///< carried for the callers
+  long lSeite = -1;                  ///< side of the frame polygon of an extra part
+  long lKette = -1;                  ///< index of the next extra part of the chain
+  int cAbschnittsTypAnfang = 0;      ///< section-end type at the start, 0..4
+  int cAbschnittsTypEnde = 0;        ///< section-end type at the end, 0..4
+  CMKnoten kAnfang;                  ///< node at the start
+  CMKnoten kEnde;                    ///< node at the end
+  long lSprossenBild = -1;           ///< number of the pattern that made the bar
+  long lReferenz = -1;               ///< carried for the callers
+  long lReihenfolge = 0;             ///< ordering key of `Ordnen`
+  double dUeberBreite = 0.0;         ///< extra width of the outline
 };

@@ -55,9 +55,7 @@ Segment SegmentVon(const GEOM2_Achse& achse, const Lage& lage) {
     return XY{achse.Start.x + u * richtung.x - v * richtung.y,
               achse.Start.y + u * richtung.y + v * richtung.x};
   };
-  const auto start = [&](double v) {
-    return toPlane(Schnittversatz(v, achse.dWinkelAnfang), v);
-  };
+  const auto start = [&](double v) { return toPlane(Schnittversatz(v, achse.dWinkelAnfang), v); };
   const auto end = [&](double v) {
     return toPlane(achse.dLaenge + Schnittversatz(v, achse.dWinkelEnde), v);
   };

@@ -166,9 +166,8 @@ CMFensterSatz* CMFenster::AddFluegel(long lForm, long lTyp2, const CMKnoten& k1,
   return AddFluegel(lForm, lTyp2, k1, k2, k1, k2);
 }
 
-CMFensterSatz* CMFenster::AddFluegel(long lForm, long lTyp2, const CMKnoten& k1,
-                                     const CMKnoten& k2, const CMKnoten& kAL,
-                                     const CMKnoten& kAR) {
+CMFensterSatz* CMFenster::AddFluegel(long lForm, long lTyp2, const CMKnoten& k1, const CMKnoten& k2,
+                                     const CMKnoten& kAL, const CMKnoten& kAR) {
   std::unique_ptr<CMFensterSatz> fluegel(NewFluegelPtr(lForm));
   if (!fluegel) return nullptr;
   fluegel->lTyp2 = static_cast<int>(lTyp2);
@@ -184,8 +183,7 @@ CMFensterSatz* CMFenster::AddFluegel(long lForm, long lTyp2, const CMKnoten& k1,
   GEOM2_Polygon kern = form;
   form.ParallelPolygon(-kUeberlappungsSpiel, kern);
   for (const auto& anderer : fluegel_) {
-    if (lintavo::PolygoneUeberlappen(kern, Grundform(*anderer, achsen_),
-                                     lintavo::kUeberlappung)) {
+    if (lintavo::PolygoneUeberlappen(kern, Grundform(*anderer, achsen_), lintavo::kUeberlappung)) {
       throw CMException(static_cast<int>(StringId::MeldungFluegelUeberlappen));
     }
   }
@@ -245,7 +243,9 @@ long CMFenster::AddZusatzMasz(const CMZusatzMasz& masz) {
   return GetAnzahlZusatzMasze() - 1;
 }
 
-CMZusatzMasz* CMFenster::GetZusatzMaszPtr(long i) { return ElementPtr(zusatzMasze_, i); }
+CMZusatzMasz* CMFenster::GetZusatzMaszPtr(long i) {
+  return ElementPtr(zusatzMasze_, i);
+}
 
 const CMZusatzMasz* CMFenster::GetZusatzMaszPtr(long i) const {
   return ElementPtr(zusatzMasze_, i);

@@ -15,8 +15,8 @@ namespace {
 constexpr double kGroessteWendung = 25.0;
 
 // Section-end types of outer extra parts.
-constexpr int kEndeAnGehrung = 2;      // ends on the cut between its side and the next
-constexpr int kEndeAnSeite = 3;        // ends on the outer contour of its side alone
+constexpr int kEndeAnGehrung = 2;       // ends on the cut between its side and the next
+constexpr int kEndeAnSeite = 3;         // ends on the outer contour of its side alone
 constexpr int kEndeAnAussenkontur = 4;  // ends on the outer contour of the whole frame
 
 // The axis of an outer extra part is lengthened far past any contour before it
@@ -24,7 +24,9 @@ constexpr int kEndeAnAussenkontur = 4;  // ends on the outer contour of the whol
 constexpr double kAnschlussVerlaengerung = 10000.0;
 constexpr double kAnschlussSchnittAbstand = 0.25;  // of the part's width
 
-bool IsAnVerbindung(int endtyp) { return endtyp == kEndeAnGehrung || endtyp == kEndeAnSeite; }
+bool IsAnVerbindung(int endtyp) {
+  return endtyp == kEndeAnGehrung || endtyp == kEndeAnSeite;
+}
 
 [[noreturn]] void Throw(StringId id, const CString& arg) {
   throw CMException(static_cast<int>(id), arg);

@@ -43,8 +43,8 @@ bool ReadKnoten(CIniFile& document, const CString& section, const char* key, CMK
 }
 
 void SaveKnoten(CIniFile& document, CString& section, const char* key, const CMKnoten& knoten) {
-  const double v[4] = {static_cast<double>(knoten.J()), static_cast<double>(knoten.K()),
-                       knoten.X(), knoten.Y()};
+  const double v[4] = {static_cast<double>(knoten.J()), static_cast<double>(knoten.K()), knoten.X(),
+                       knoten.Y()};
   document.SetDoubles(section, key, knoten.IsAufAchse() ? 2 : 4, v);
 }
 
@@ -115,7 +115,8 @@ CString FormularPfad(const CString& path) {
 
 // Sets an index of the compacted grid; the result stays an int for any input.
 int ShiftedIndex(int i, long shift) {
-  return static_cast<int>(std::clamp<long long>(static_cast<long long>(i) - shift, INT_MIN, INT_MAX));
+  return static_cast<int>(
+      std::clamp<long long>(static_cast<long long>(i) - shift, INT_MIN, INT_MAX));
 }
 
 CMKnoten Shifted(const CMKnoten& knoten, long dj, long dk) {
@@ -209,7 +210,9 @@ bool CMFenster::SaveToBuffer(CIniFile& document) const {
   return true;
 }
 
-bool CMFenster::SaveToFile(const CString& path) { return SaveToFile(false, path); }
+bool CMFenster::SaveToFile(const CString& path) {
+  return SaveToFile(false, path);
+}
 
 bool CMFenster::SaveToFile(bool withParameterForm, const CString& path) {
   if (path.IsEmpty()) return false;
@@ -249,8 +252,7 @@ bool CMFenster::SaveParameterBlankoFormularToBuffer(CIniFile& document) const {
     fluegel->SaveFuellungToIniFile(section, document);
     document.SetBool(section, Text(StringId::ZuerstAufgehend), fluegel->bZuerstAufgehend);
     fluegel->SaveBauteileToParameterFormular(1, section, document);
-    document.SetString(section, NumberedName(StringId::Sprossenbild, 1),
-                       kMusterSprossenbild);
+    document.SetString(section, NumberedName(StringId::Sprossenbild, 1), kMusterSprossenbild);
   }
   return true;
 }

@@ -234,8 +234,7 @@ bool CMFenster::ZusatzMaszVerbinden(CMZusatzMasz& masz) const {
   return true;
 }
 
-bool CMFenster::NeuenAchsAbstandSetzen(const CMZusatzMasz* masz, long i1, long i2,
-                                       double dSoll) {
+bool CMFenster::NeuenAchsAbstandSetzen(const CMZusatzMasz* masz, long i1, long i2, double dSoll) {
   if (i1 == i2) return false;
   if (std::fabs(dSoll) < lintavo::kNullLaenge) return true;
   if (!masz) return false;
@@ -289,18 +288,17 @@ void CMFenster::AchseVerschieben(bool bVerti, int iVon, int iAchse, double dWert
 // Stretches the shapes of the sashes within a span whose length has changed. A
 // sash reckons with its change per axis interval; how much of the change fell
 // to it follows from the grid as it was.
-void CMFenster::FluegelFormBeiwerteAnpassen(bool bVerti, long i1, long i2,
-                                            const CMAchsen& before) {
+void CMFenster::FluegelFormBeiwerteAnpassen(bool bVerti, long i1, long i2, const CMAchsen& before) {
   const long low = std::min(i1, i2);
   const long high = std::max(i1, i2);
   for (const auto& fluegel : fluegel_) {
     const int a = IndexOf(fluegel->Knoten1, bVerti);
     const int b = IndexOf(fluegel->Knoten2, bVerti);
     if (std::min(a, b) < low || std::max(a, b) > high || a == b) continue;
-    const double extent = Position(achsen_, bVerti, std::max(a, b)) -
-                          Position(achsen_, bVerti, std::min(a, b));
-    const double extentBefore = Position(before, bVerti, std::max(a, b)) -
-                                Position(before, bVerti, std::min(a, b));
+    const double extent =
+        Position(achsen_, bVerti, std::max(a, b)) - Position(achsen_, bVerti, std::min(a, b));
+    const double extentBefore =
+        Position(before, bVerti, std::max(a, b)) - Position(before, bVerti, std::min(a, b));
     fluegel->FormBeiwerteAnpassen(bVerti, achsen_, i1, i2,
                                   (extent - extentBefore) / std::abs(b - a));
   }
@@ -390,8 +388,7 @@ bool CMFenster::EckenNachMaszSetzen(const CMZusatzMasz& masz, const GEOM2_Polygo
   return setSpan(masz.kKnoten2, -masz.dLaenge / 2.0) && setSpan(masz.kKnoten3, masz.dLaenge / 2.0);
 }
 
-bool CMFenster::RahmenEckpunktFangen(const CMKnoten& knoten, double tolerance,
-                                     long& index) const {
+bool CMFenster::RahmenEckpunktFangen(const CMKnoten& knoten, double tolerance, long& index) const {
   return EckpunktFangen(rahmen_.RahmenPolygon, knoten, tolerance, index);
 }
 
@@ -433,7 +430,8 @@ bool CMFenster::ZusatzMaszeFuerBreiteUndHoeheAutomatisch(double dAbstand) {
   hoehe.SetVertikal(origin, CMKnoten(static_cast<int>(minJ), static_cast<int>(maxK)));
   for (CMZusatzMasz* masz : {&breite, &hoehe}) {
     if (!ZusatzMaszVerbinden(*masz)) {
-      throw CMException(static_cast<int>(StringId::MeldungZusatzmaszNichtAngebracht), masz->strName);
+      throw CMException(static_cast<int>(StringId::MeldungZusatzmaszNichtAngebracht),
+                        masz->strName);
     }
     AddZusatzMasz(*masz);
   }

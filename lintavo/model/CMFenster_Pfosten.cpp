@@ -41,8 +41,8 @@ CMStrecke Merged(const CMStrecke& s, const CMStrecke& t) {
   s.GetPunkte(ends[0], ends[1]);
   t.GetPunkte(ends[2], ends[3]);
   const XY along = Differenz(ends[1], ends[0]);
-  const auto [lowest, highest] = std::minmax_element(
-      std::begin(ends), std::end(ends), [&](const XY& p, const XY& q) {
+  const auto [lowest, highest] =
+      std::minmax_element(std::begin(ends), std::end(ends), [&](const XY& p, const XY& q) {
         return Skalarprodukt(Differenz(p, ends[0]), along) <
                Skalarprodukt(Differenz(q, ends[0]), along);
       });
@@ -80,7 +80,9 @@ std::vector<CMStrecke> Trennlinien(const std::vector<GEOM2_Polygon>& grundformen
   return segmente;
 }
 
-bool IsSameNode(const CMKnoten& a, const CMKnoten& b) { return a.J() == b.J() && a.K() == b.K(); }
+bool IsSameNode(const CMKnoten& a, const CMKnoten& b) {
+  return a.J() == b.J() && a.K() == b.K();
+}
 
 bool IsBetween(const CMBauteil& bauteil, const CMKnoten& k1, const CMKnoten& k2) {
   return (IsSameNode(bauteil.kAnfang, k1) && IsSameNode(bauteil.kEnde, k2)) ||
@@ -134,9 +136,9 @@ std::optional<Anschluss> ErsterAnschluss(const XY& fern, const XY& ende, const S
 // How far an end cut along `seite` leans from the perpendicular of the axis.
 double Schnittwinkel(const XY& richtung, XY seite) {
   if (Kreuzprodukt(richtung, seite) < 0.0) seite = lintavo::Mal(seite, -1.0);
-  const double winkel =
-      std::atan2(Skalarprodukt(richtung, seite), Kreuzprodukt(richtung, seite)) *
-      lintavo::kGradJeRadiant;
+  const double winkel = std::atan2(Skalarprodukt(richtung, seite), Kreuzprodukt(richtung, seite)) *
+                        lintavo::kGradJeRadiant;
+  if (std::fabs(winkel) <= lintavo::kGleicherWinkel) return 0.0;
   return std::clamp(winkel, -lintavo::kGroessterSchnittwinkel, lintavo::kGroessterSchnittwinkel);
 }
 
@@ -181,11 +183,9 @@ void CMFenster::PfostenUndRiegelAutomatischSetzen(const GEOM2_Polygon& innen,
     CMKnoten k2;
     achsen_.GetKnoten(a, k1, fangRadius);
     achsen_.GetKnoten(b, k2, fangRadius);
-    const bool present =
-        std::any_of(rahmen_.EinzelTeile.begin(), rahmen_.EinzelTeile.end(),
-                    [&](const CMBauteil& teil) {
-                      return teil.IsRahmenteil() && IsBetween(teil, k1, k2);
-                    });
+    const bool present = std::any_of(
+        rahmen_.EinzelTeile.begin(), rahmen_.EinzelTeile.end(),
+        [&](const CMBauteil& teil) { return teil.IsRahmenteil() && IsBetween(teil, k1, k2); });
     // A second calculation finds the mullions of the first.
     if (present) continue;
     CMBauteil& bauteil = *AddRahmenEinzelBauteil(k1, k2, pfostenVorlage_);

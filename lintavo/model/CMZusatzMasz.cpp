@@ -17,7 +17,9 @@ void CMZusatzMasz::SetHorizontal(const CMKnoten& centre, const CMKnoten& k2, con
   Set(kHorizontal, centre, k2, k3);
 }
 
-void CMZusatzMasz::SetVertikal(const CMKnoten& k1, const CMKnoten& k2) { Set(kVertikal, k1, k2); }
+void CMZusatzMasz::SetVertikal(const CMKnoten& k1, const CMKnoten& k2) {
+  Set(kVertikal, k1, k2);
+}
 
 void CMZusatzMasz::SetVertikal(const CMKnoten& centre, const CMKnoten& k2, const CMKnoten& k3) {
   Set(kVertikal, centre, k2, k3);

@@ -28,13 +28,13 @@ class LINTAVO_API CMZusatzMasz {
   void SetVertikal(const CMKnoten& centre, const CMKnoten& k2, const CMKnoten& k3);
 
   CString strName;
-  long lArt = 0;            ///< 1 one-sided, 2 centred, 0 not yet set
-  long lRichtung = 1;       ///< 1 horizontal, 0 vertical
-  CMKnoten kKnoten1;        ///< start; the centre of a centred dimension
-  CMKnoten kKnoten2;        ///< end; the lower end of a centred dimension
-  CMKnoten kKnoten3;        ///< the upper end of a centred dimension
-  double dLaenge = 0.0;     ///< required length, signed in the direction of the axes
-  double dAbstand = 0.0;    ///< distance of the dimension line from node 1
+  long lArt = 0;          ///< 1 one-sided, 2 centred, 0 not yet set
+  long lRichtung = 1;     ///< 1 horizontal, 0 vertical
+  CMKnoten kKnoten1;      ///< start; the centre of a centred dimension
+  CMKnoten kKnoten2;      ///< end; the lower end of a centred dimension
+  CMKnoten kKnoten3;      ///< the upper end of a centred dimension
+  double dLaenge = 0.0;   ///< required length, signed in the direction of the axes
+  double dAbstand = 0.0;  ///< distance of the dimension line from node 1
 
  private:
   void Set(long richtung, const CMKnoten& k1, const CMKnoten& k2);

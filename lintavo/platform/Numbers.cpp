@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <optional>
 #include <string>
 #include <system_error>
 
@@ -29,10 +30,10 @@ bool HasHexPrefix(std::string_view text) {
   return HexDigit(text[2]) >= 0;
 }
 
-// The exponent behind the digits, held within bounds that no sum with a count
-// of digits leaves.
+// The exponent behind its mark; 0 when no digit follows. Held within bounds that
+// no sum with a count of digits leaves.
 long long ReadExponent(std::string_view text) {
-  constexpr long long kBound = 1'000'000'000'000;
+  constexpr long long kBound = 1'000'000'000'000'000;
   const bool negative = !text.empty() && text[0] == '-';
   if (!text.empty() && (text[0] == '-' || text[0] == '+')) text.remove_prefix(1);
   long long exponent = 0;
@@ -46,42 +47,47 @@ long long ReadExponent(std::string_view text) {
 // Whether a number that no double can hold is too large (true) or too small:
 // the place of its first digit other than 0, moved by its exponent, decides.
 bool IsTooLarge(std::string_view text, bool hex) {
-  const long long bitsPerDigit = hex ? 4 : 1;
   long long place = 0;  // of the first digit, counted from the point
   bool behindPoint = false;
   bool found = false;
   std::size_t i = 0;
   for (; i < text.size(); ++i) {
-    const char c = text[i];
-    if (c == '.' && !behindPoint) {
+    if (text[i] == '.' && !behindPoint) {
       behindPoint = true;
       continue;
     }
-    const int digit = hex ? HexDigit(c) : (IsDigit(c) ? c - '0' : -1);
-    if (digit < 0) break;
-    found = found || digit > 0;
+    if (hex ? HexDigit(text[i]) < 0 : !IsDigit(text[i])) break;
+    found = found || text[i] != '0';
     if (found && !behindPoint) ++place;
     if (!found && behindPoint) --place;
   }
   const char mark = hex ? 'p' : 'e';
-  if (i < text.size() && (text[i] | 0x20) == mark) {
-    return place * bitsPerDigit + ReadExponent(text.substr(i + 1)) > 0;
-  }
-  return place > 0;
+  const bool marked = i < text.size() && (text[i] | 0x20) == mark;
+  const long long bitsPerDigit = hex ? 4 : 1;
+  return place * bitsPerDigit + (marked ? ReadExponent(text.substr(i + 1)) : 0) > 0;
 }
 
-double ParseUnsigned(std::string_view text) {
+// What stands behind "0x", without an exponent of two signs: that is none, but
+// the conversion would take it.
+std::string_view HexDigits(std::string_view text) {
+  text.remove_prefix(2);
+  const std::size_t mark = text.find_first_of("pP");
+  return mark != std::string_view::npos && text.substr(mark + 1, 2) == "+-" ? text.substr(0, mark)
+                                                                            : text;
+}
+
+// The number behind the sign; nothing when there is none.
+std::optional<double> ParseUnsigned(std::string_view text) {
   const bool hex = HasHexPrefix(text);
-  if (hex) text.remove_prefix(2);
+  if (hex) text = HexDigits(text);
   // A second sign ends the number, but the conversion would take a minus.
-  if (text.empty() || text[0] == '-') return 0.0;
+  if (text.empty() || text[0] == '-') return std::nullopt;
   double value = 0.0;
   const auto format = hex ? std::chars_format::hex : std::chars_format::general;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value, format);
-  if (result.ec == std::errc::result_out_of_range) {
-    return IsTooLarge(text, hex) ? HUGE_VAL : 0.0;
-  }
-  return result.ec == std::errc() ? value : 0.0;
+  if (result.ec == std::errc::result_out_of_range) return IsTooLarge(text, hex) ? HUGE_VAL : 0.0;
+  if (result.ec != std::errc()) return std::nullopt;
+  return value;
 }
 
 }  // namespace
@@ -93,8 +99,9 @@ double ParseNumber(std::string_view text) {
   if (text.empty()) return 0.0;
   const bool negative = text[0] == '-';
   if (negative || text[0] == '+') text.remove_prefix(1);
-  const double value = ParseUnsigned(text);
-  return negative ? -value : value;
+  const std::optional<double> value = ParseUnsigned(text);
+  if (!value) return 0.0;  // a lone "-" is no negative zero
+  return negative ? -*value : *value;
 }
 
 CString FormatNumber(double value) {

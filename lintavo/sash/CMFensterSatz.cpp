@@ -52,7 +52,9 @@ long PositionOf(const std::vector<CMBauteil>& liste, const CMBauteil* bauteil) {
 
 }  // namespace
 
-CMFensterSatz::CMFensterSatz() { Init(); }
+CMFensterSatz::CMFensterSatz() {
+  Init();
+}
 
 void CMFensterSatz::Init() {
   strName.Empty();
@@ -104,18 +106,29 @@ void CMFensterSatz::SetRahmenDefaults(double width, double thickness, double wid
   RahmenVorlage.lAttribut[1] = s;
 }
 
-void CMFensterSatz::SetRahmenDefaults(double width, double thickness, double width2, int p,
-                                      int r) {
+void CMFensterSatz::SetRahmenDefaults(double width, double thickness, double width2, int p, int r) {
   SetRahmenDefaults(width, thickness, width2, p, p, r, r);
 }
 
-long CMFensterSatz::GetOeffSeitenIndex(const CString& text) { return IndexOf(kOeffSeiten, text); }
-long CMFensterSatz::GetGangArtIndex(const CString& text) { return IndexOf(kGangarten, text); }
-long CMFensterSatz::GetAnschlagIndex(const CString& text) { return IndexOf(kAnschlaege, text); }
+long CMFensterSatz::GetOeffSeitenIndex(const CString& text) {
+  return IndexOf(kOeffSeiten, text);
+}
+long CMFensterSatz::GetGangArtIndex(const CString& text) {
+  return IndexOf(kGangarten, text);
+}
+long CMFensterSatz::GetAnschlagIndex(const CString& text) {
+  return IndexOf(kAnschlaege, text);
+}
 
-CString CMFensterSatz::GetOeffSeitenKurzText(long i) { return TextAt(kOeffSeiten, i); }
-CString CMFensterSatz::GetGangArtKurzText(long i) { return TextAt(kGangarten, i); }
-CString CMFensterSatz::GetAnschlagKurzText(long i) { return TextAt(kAnschlaege, i); }
+CString CMFensterSatz::GetOeffSeitenKurzText(long i) {
+  return TextAt(kOeffSeiten, i);
+}
+CString CMFensterSatz::GetGangArtKurzText(long i) {
+  return TextAt(kGangarten, i);
+}
+CString CMFensterSatz::GetAnschlagKurzText(long i) {
+  return TextAt(kAnschlaege, i);
+}
 
 CMBauteil* CMFensterSatz::GetRahmenBauteilPtr(long i) {
   return const_cast<CMBauteil*>(std::as_const(*this).GetRahmenBauteilPtr(i));
@@ -127,13 +140,17 @@ const CMBauteil* CMFensterSatz::GetRahmenBauteilPtr(long i) const {
   return bauteil ? bauteil : &RahmenVorlage;
 }
 
-CMBauteil* CMFensterSatz::GetEinzelBauteilPtr(long i) { return ElementPtr(EinzelTeile, i); }
+CMBauteil* CMFensterSatz::GetEinzelBauteilPtr(long i) {
+  return ElementPtr(EinzelTeile, i);
+}
 
 const CMBauteil* CMFensterSatz::GetEinzelBauteilPtr(long i) const {
   return ElementPtr(EinzelTeile, i);
 }
 
-CMBauteil* CMFensterSatz::GetSprossenBauteilPtr(long i) { return ElementPtr(Sprossen, i); }
+CMBauteil* CMFensterSatz::GetSprossenBauteilPtr(long i) {
+  return ElementPtr(Sprossen, i);
+}
 
 const CMBauteil* CMFensterSatz::GetSprossenBauteilPtr(long i) const {
   return ElementPtr(Sprossen, i);
@@ -152,9 +169,15 @@ const CMBauteil* CMFensterSatz::GetBauteilPtr(const GEOM2_Polygon& polygon, long
   return ElementPtr(RahmenTeile, GetBauteilNr(polygon, side));
 }
 
-long CMFensterSatz::lGetAnzahlRahmenBauteile() const { return CountPresent(RahmenTeile); }
-long CMFensterSatz::lGetAnzahlEinzelBauteile() const { return CountPresent(EinzelTeile); }
-long CMFensterSatz::lGetAnzahlSprossenBauteile() const { return CountPresent(Sprossen); }
+long CMFensterSatz::lGetAnzahlRahmenBauteile() const {
+  return CountPresent(RahmenTeile);
+}
+long CMFensterSatz::lGetAnzahlEinzelBauteile() const {
+  return CountPresent(EinzelTeile);
+}
+long CMFensterSatz::lGetAnzahlSprossenBauteile() const {
+  return CountPresent(Sprossen);
+}
 
 long CMFensterSatz::GetRahmenBauteilNr(const CMBauteil* bauteil) const {
   return PositionOf(RahmenTeile, bauteil);
@@ -191,7 +214,9 @@ bool CMFensterSatz::Get4BorderPoints(XY& a, XY& b, XY& c, XY& d,
 
 void CMFensterSatz::FormBeiwerteAnpassen(bool, const CMAchsen&, long, long, double) {}
 
-bool CMFensterSatz::bStichAnpassen(CMFenster&) { return false; }
+bool CMFensterSatz::bStichAnpassen(CMFenster&) {
+  return false;
+}
 
 bool CMFensterSatz::BerechneGrundform(const XY&, const XY&, const XY&, const XY&, GEOM2_Polygon&) {
   return false;

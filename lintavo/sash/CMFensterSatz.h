@@ -120,8 +120,7 @@ class LINTAVO_API CMFensterSatz {
   void SetFormBeiwertY(long i, double value, bool fixed);
 
   /// Sets the frame template; p, q, r, s become the attributes a3, a1, a4, a2.
-  void SetRahmenDefaults(double width, double thickness, double width2, int p, int q, int r,
-                         int s);
+  void SetRahmenDefaults(double width, double thickness, double width2, int p, int q, int r, int s);
   /// The same with p = q and r = s.
   void SetRahmenDefaults(double width, double thickness, double width2, int p, int r);
 
@@ -145,8 +144,7 @@ class LINTAVO_API CMFensterSatz {
   bool SaveGangartToIniFile(CString& section, CIniFile& document) const;
   /// Writes the components into a blank parameter form, lengths times ten:
   /// `lArt` 0 the window's frame ("R" and "Z" lists), 1 a sash ("F" lists).
-  void SaveBauteileToParameterFormular(long lArt, const CString& section,
-                                       CIniFile& document) const;
+  void SaveBauteileToParameterFormular(long lArt, const CString& section, CIniFile& document) const;
 
   // --- frame polygon, frame parts and contours -------------------------------
 
@@ -234,8 +232,11 @@ class LINTAVO_API CMFensterSatz {
   /// Lays axis 0 of an extra part along its side, outside or inside everything
   /// that its side carries. False when it has no place.
   bool PlaziereZusatzteil(CMBauteil& part) const;
-  /// Places all outer (true) or all inner (false) extra parts. Always true;
-  /// throws when a chain names a part that does not exist.
+  /// Places all outer (true) or all inner (false) extra parts, and those of
+  /// either kind that hang in a chain already, in the order of the list. A part
+  /// that has no place gets an axis of length zero and leaves its chain, so that
+  /// its width counts nowhere. Always true; throws when a chain names a part that
+  /// does not exist.
   bool PlaziereZusatzteile(bool aussen);
 
   // --- filling ---------------------------------------------------------------
@@ -300,35 +301,35 @@ class LINTAVO_API CMFensterSatz {
 
   // --- fields ----------------------------------------------------------------
 
-  int lForm = eFormRechteck;         ///< shape code, one of `eFluegelFormen`
-  CMKnoten Knoten1;                  ///< two opposite corners of the placement
-  CMKnoten Knoten2;                  ///< rectangle
-  CMKnoten KnotenAL;                 ///< left and right end of a shared arch
+  int lForm = eFormRechteck;  ///< shape code, one of `eFluegelFormen`
+  CMKnoten Knoten1;           ///< two opposite corners of the placement
+  CMKnoten Knoten2;           ///< rectangle
+  CMKnoten KnotenAL;          ///< left and right end of a shared arch
   CMKnoten KnotenAR;
   CString strName;
-  GEOM2_Polygon RahmenPolygon;       ///< outer edge of the frame parts; attribute = part
-  CMBauteil RahmenVorlage;           ///< defaults of new frame parts
+  GEOM2_Polygon RahmenPolygon;  ///< outer edge of the frame parts; attribute = part
+  CMBauteil RahmenVorlage;      ///< defaults of new frame parts
   std::vector<CMBauteil> RahmenTeile;
   std::vector<CMBauteil> EinzelTeile;  ///< mullions, transoms and extra parts
-  CMBauteil SprossenVorlage;         ///< defaults of new glazing bars
+  CMBauteil SprossenVorlage;           ///< defaults of new glazing bars
   std::vector<CMBauteil> Sprossen;
-  double dZVersatz = 0.0;            ///< depth offset against the window
-  bool bMitRahmen = true;            ///< has a frame of its own
-  int lOeffSeite = 0;                ///< index of the opening side
-  int lGangart = 0;                  ///< index of the opening kind
-  int lAnschlag = 0;                 ///< index of the hinge side
+  double dZVersatz = 0.0;  ///< depth offset against the window
+  bool bMitRahmen = true;  ///< has a frame of its own
+  int lOeffSeite = 0;      ///< index of the opening side
+  int lGangart = 0;        ///< index of the opening kind
+  int lAnschlag = 0;       ///< index of the hinge side
   CMFuellung Fuellung;
   std::vector<CMBeschlag> Beschlaege;
-  bool bZuerstAufgehend = false;     ///< this leaf of a pair opens first
-  double dBreite = 0.0;              ///< placement width of the last outline
-  double dHoehe = 0.0;               ///< placement height of the last outline
-  FormBeiwert FormBeiwertX[4];       ///< rectangles: along the horizontal edge
-  FormBeiwert FormBeiwertY[4];       ///< rectangles: along the vertical edge
-  double dStich = 0.0;               ///< arches: rise at the top
-  double dStichUnten = 0.0;          ///< arches: rise at the bottom
-  bool bKorbbogen = false;           ///< arches: half ellipse instead of a circle
-  bool bGespiegelt = false;          ///< half arches: crown on the left
-  int lTyp2 = 0;                     ///< second number of the file's "Typ"
+  bool bZuerstAufgehend = false;  ///< this leaf of a pair opens first
+  double dBreite = 0.0;           ///< placement width of the last outline
+  double dHoehe = 0.0;            ///< placement height of the last outline
+  FormBeiwert FormBeiwertX[4];    ///< rectangles: along the horizontal edge
+  FormBeiwert FormBeiwertY[4];    ///< rectangles: along the vertical edge
+  double dStich = 0.0;            ///< arches: rise at the top
+  double dStichUnten = 0.0;       ///< arches: rise at the bottom
+  bool bKorbbogen = false;        ///< arches: half ellipse instead of a circle
+  bool bGespiegelt = false;       ///< half arches: crown on the left
+  int lTyp2 = 0;                  ///< second number of the file's "Typ"
 
  protected:
   /// Fits the top rise to the first vertical, one-sided dimension that starts
@@ -363,9 +364,7 @@ class LINTAVO_API CMFensterSatz {
                    const GEOM2_Polygon& contour, std::vector<CMStrecke>& lines) const;
   CMBauteil* SprosseAnfuegen(const CMBauteil& vorlage, GEOM2_Achse achse,
                              const GEOM2_Polygon& contour);
-  bool HaengtAn(const CMBauteil& part, std::size_t rahmenteil) const;
   long* KettenEnde(const CMBauteil& part);
   bool ZusatzteilAnschliessen(CMBauteil& part, bool aussen);
-  std::vector<bool> KettenPruefen();
-  void KettePlazieren(CMBauteil& rahmenteil, bool aussen);
+  std::vector<bool> KettenAufloesen();
 };

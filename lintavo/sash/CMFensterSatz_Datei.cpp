@@ -171,6 +171,19 @@ bool HatBreite(const CMBauteil& bauteil) {
   return bauteil.dBreite >= lintavo::kNullLaenge;
 }
 
+// A number is the part's place in the list. A part without an axis leaves a gap,
+// on purpose, and reading ends there: what follows it belongs to a frame that is
+// no more.
+void SaveRahmenTeile(Schreiber& schreiber, const std::vector<CMBauteil>& liste, long kennung) {
+  long nummer = 0;
+  for (const CMBauteil& bauteil : liste) {
+    ++nummer;
+    if (bauteil.GetAchsLaenge() < lintavo::kNullLaenge) continue;
+    schreiber.Zahlen(NumberedName(StringId::PraefixR, nummer),
+                     FelderMitKennung(bauteil, feld::kRahmenteil, kennung));
+  }
+}
+
 // Mullions and transoms first, then the extra parts, numbered through.
 void SaveEinzelTeile(Schreiber& schreiber, const std::vector<CMBauteil>& liste, long kennung) {
   long nummer = 0;
@@ -322,15 +335,7 @@ bool CMFensterSatz::SaveToIniFile(const CString& section, CIniFile& document) co
   if (KnotenAL.J() != Knoten1.J()) schreiber.Knoten(StringId::KnotenAL, KnotenAL);
   if (KnotenAR.J() != Knoten2.J()) schreiber.Knoten(StringId::KnotenAR, KnotenAR);
 
-  long nummer = 0;
-  for (const CMBauteil& bauteil : RahmenTeile) {
-    // A part without an axis leaves a gap, on purpose: a number is the part's
-    // place in the list. Reading ends there.
-    ++nummer;
-    if (bauteil.GetAchsLaenge() < lintavo::kNullLaenge) continue;
-    schreiber.Zahlen(NumberedName(StringId::PraefixR, nummer),
-                     FelderMitKennung(bauteil, feld::kRahmenteil, kennung));
-  }
+  SaveRahmenTeile(schreiber, RahmenTeile, kennung);
   SaveEinzelTeile(schreiber, EinzelTeile, kennung);
   SaveSprossen(schreiber, Sprossen);
   SaveBeschlaege(schreiber, Beschlaege);

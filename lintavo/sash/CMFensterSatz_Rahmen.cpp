@@ -86,8 +86,8 @@ std::vector<Innenecken> InneneckenJeSeite(const GEOM2_Polygon& innen, std::size_
   }
   // Once around from a side that is there, so that each vanished one finds the
   // end of the one before it.
-  const auto first = static_cast<std::size_t>(
-      std::find(vorhanden.begin(), vorhanden.end(), true) - vorhanden.begin());
+  const auto first = static_cast<std::size_t>(std::find(vorhanden.begin(), vorhanden.end(), true) -
+                                              vorhanden.begin());
   for (std::size_t n = 1; n < anzahlSeiten; ++n) {
     const std::size_t i = (first + n) % anzahlSeiten;
     const XY ecke = ecken[(i + anzahlSeiten - 1) % anzahlSeiten].ende;
@@ -166,8 +166,8 @@ long CMFensterSatz::RahmenSegmenteZusammenfassen(double maxLength, double maxAng
                              richtung[static_cast<std::size_t>(from)]);
   };
   const auto isMergeSide = [&](int i) {
-    const bool bent = turn((i + count - 1) % count, i) < maxAngle ||
-                      turn(i, (i + 1) % count) < maxAngle;
+    const bool bent =
+        turn((i + count - 1) % count, i) < maxAngle || turn(i, (i + 1) % count) < maxAngle;
     // A vertical side is the straight end of an arch and stays a part of its own.
     const bool vertical =
         std::fabs(std::cos(richtung[static_cast<std::size_t>(i)] * lintavo::kPi / 180.0)) <=
@@ -200,8 +200,11 @@ long CMFensterSatz::RahmenSegmenteZusammenfassen(double maxLength, double maxAng
 }
 
 bool CMFensterSatz::BerechneRahmenPolygon(double maxLength, double maxAngle,
-                                          const CMFensterSatz& frame,
-                                          const GEOM2_Polygon& outline, long) {
+                                          const CMFensterSatz& frame, const GEOM2_Polygon& outline,
+                                          long) {
+  // A sash without a frame keeps no parts of its own: its overlap is always the
+  // template's, also before the first calculation has dropped stored parts.
+  if (!bMitRahmen) RahmenTeile.clear();
   GEOM2_Polygon sides = outline;
   const long parts = RahmenSegmenteZusammenfassen(maxLength, maxAngle, sides);
   if (parts < 0) return false;

@@ -4,10 +4,9 @@
 // A frame part's link names the first extra part of its side, each extra part
 // the next one; inner and outer ones share the chain. A part lies beside all
 // that stand before it in the chain.
-#include <cmath>
-
 #include "lintavo/geom/Geraden.h"
 #include "lintavo/geom/Toleranzen.h"
+#include "lintavo/geom/Vektor_intern.h"
 #include "lintavo/model/CMException.h"
 #include "lintavo/sash/CMFensterSatz.h"
 
@@ -28,17 +27,14 @@ bool IsZusatzteil(const CMBauteil& part, bool aussen) {
   return aussen ? part.IsZusatzteilAussen() : part.IsZusatzteilInnen();
 }
 
-bool HatLaenge(const GEOM2_Achse& achse) {
-  return achse.dLaenge >= lintavo::kNullLaenge && std::isfinite(achse.dLaenge);
-}
-
 // Axis 0 of a part that has no place: nothing of the part is to be seen.
 void NimmAchse(CMBauteil& part) {
   part.DeleteAchsen();
   part.AddAchse({});
 }
 
-// Lays axis 0 beside a side, at distance d to its right.
+// Lays axis 0 beside a side, at distance d to its right; false also when that
+// is nowhere on a drawing.
 bool LegeNebenSeite(const GEOM2_Polygon& polygon, long side, double d, GEOM2_Achse& achse) {
   XY a;
   XY b;
@@ -49,21 +45,9 @@ bool LegeNebenSeite(const GEOM2_Polygon& polygon, long side, double d, GEOM2_Ach
                       b2.y) != 1) {
     return false;
   }
-  return GEOM2_Polygon::SetAchse(a2, b2, achse) && HatLaenge(achse);
+  return lintavo::IstBrauchbar(a2) && lintavo::IstBrauchbar(b2) &&
+         GEOM2_Polygon::SetAchse(a2, b2, achse);
 }
-
-// Sets a link back when the scope is left, by an exception too.
-class Wiederherstellung {
- public:
-  explicit Wiederherstellung(long& glied) : glied_(glied), wert_(glied) {}
-  Wiederherstellung(const Wiederherstellung&) = delete;
-  Wiederherstellung& operator=(const Wiederherstellung&) = delete;
-  ~Wiederherstellung() { glied_ = wert_; }
-
- private:
-  long& glied_;
-  long wert_;
-};
 
 // A link past a removed part, and the same link counted in the shorter list.
 void UmgeheTeil(long& glied, long entfernt, long nachfolger) {
@@ -112,9 +96,7 @@ bool CMFensterSatz::PlaziereZusatzteil(CMBauteil& part) const {
     for (int i = 0; i < innen.GetAnzahl(); ++i) innen.SetWert2(i, 0.0);
     const double d = GetAbstandZurRahmenInnenSeite(true, part.lSeite) + part.dBreite * kHalb;
     if (!LegeNebenSeite(RahmenPolygon, part.lSeite, -d, achse)) return false;
-    if (!innen.AchseClippen(achse, kSchnittAnteil * part.dBreite) || !HatLaenge(achse)) {
-      return false;
-    }
+    if (!innen.AchseClippen(achse, kSchnittAnteil * part.dBreite)) return false;
   }
   part.DeleteAchsen();
   part.AddAchse(achse);
@@ -122,23 +104,19 @@ bool CMFensterSatz::PlaziereZusatzteil(CMBauteil& part) const {
 }
 
 bool CMFensterSatz::PlaziereZusatzteile(bool aussen) {
-  const std::vector<bool> angeschlossen = KettenPruefen();
+  // The distances that place a part are sums over its chain, which must end
+  // before the part for exactly as long as it is placed. So the chains are made
+  // anew, one part after the other in the order of the list. That way the result
+  // is the same for parts that come from a file, for parts placed before, and
+  // after a part had no place for a while; and no part is ever linked twice.
+  std::vector<bool> anschliessen = KettenAufloesen();
   for (std::size_t i = 0; i < EinzelTeile.size(); ++i) {
     CMBauteil& part = EinzelTeile[i];
-    if (!(part.dBreite >= lintavo::kNullLaenge) || !IsZusatzteil(part, aussen)) continue;
-    // Being in a chain counts, not having an axis: a part must never be linked
-    // twice, and one whose frame part was made anew has to be linked again.
-    if (!angeschlossen[i] && !ZusatzteilAnschliessen(part, aussen)) NimmAchse(part);
+    if (part.dBreite >= lintavo::kNullLaenge && IsZusatzteil(part, aussen)) anschliessen[i] = true;
+    if (!anschliessen[i] || !IsZusatzteil(part)) continue;
+    if (!ZusatzteilAnschliessen(part, part.IsZusatzteilAussen())) NimmAchse(part);
   }
-  for (CMBauteil& rahmenteil : RahmenTeile) KettePlazieren(rahmenteil, aussen);
   return true;
-}
-
-// Whether the part's side belongs to this frame part. Extra parts go on
-// straight frame parts only.
-bool CMFensterSatz::HaengtAn(const CMBauteil& part, std::size_t rahmenteil) const {
-  return GetBauteilPtr(RahmenPolygon, part.lSeite) == &RahmenTeile[rahmenteil] &&
-         RahmenTeile[rahmenteil].lGetAnzAchsen() == 1;
 }
 
 // The open link at the end of the chain on the part's side; null when the side
@@ -168,51 +146,21 @@ bool CMFensterSatz::ZusatzteilAnschliessen(CMBauteil& part, bool aussen) {
   return true;
 }
 
-// Brings the chains in order before they are walked: takes out parts whose side
-// has passed to another frame part, and cuts a chain where it meets one that was
-// walked before, itself included. Tells which single parts hang in a chain.
-// Throws when a link names a part that does not exist.
-std::vector<bool> CMFensterSatz::KettenPruefen() {
+// Takes all chains apart and tells which single parts hung in one. A chain that
+// bites its own tail, or another one, ends there. Throws, and changes nothing,
+// when a link names a part that does not exist.
+std::vector<bool> CMFensterSatz::KettenAufloesen() {
   std::vector<bool> angeschlossen(EinzelTeile.size());
-  for (std::size_t k = 0; k < RahmenTeile.size(); ++k) {
-    long* glied = &RahmenTeile[k].lKette;
-    while (*glied != kKettenende) {
-      CMBauteil* teil = GetEinzelBauteilPtr(*glied);
+  for (const CMBauteil& rahmenteil : RahmenTeile) {
+    for (long glied = rahmenteil.lKette; glied != kKettenende;) {
+      const CMBauteil* teil = GetEinzelBauteilPtr(glied);
       if (!teil) throw CMException(CString("Ein Zusatzteil verweist auf ein fehlendes Bauteil !"));
-      if (angeschlossen[static_cast<std::size_t>(*glied)]) {
-        *glied = kKettenende;
-      } else if (!HaengtAn(*teil, k)) {
-        *glied = teil->lKette;
-        teil->lKette = kKettenende;
-      } else {
-        angeschlossen[static_cast<std::size_t>(*glied)] = true;
-        glied = &teil->lKette;
-      }
+      if (angeschlossen[static_cast<std::size_t>(glied)]) break;
+      angeschlossen[static_cast<std::size_t>(glied)] = true;
+      glied = teil->lKette;
     }
   }
+  for (CMBauteil& rahmenteil : RahmenTeile) rahmenteil.lKette = kKettenende;
+  for (CMBauteil& part : EinzelTeile) part.lKette = kKettenende;
   return angeschlossen;
-}
-
-// Lays every part of a checked chain beside those before it. The link to a part
-// is cut for exactly as long as the part is placed: the distances that place it
-// are sums over the chain, which must end before it. A part that finds no place
-// any more leaves the chain, so that its width no longer counts.
-void CMFensterSatz::KettePlazieren(CMBauteil& rahmenteil, bool aussen) {
-  long* glied = &rahmenteil.lKette;
-  while (*glied != kKettenende) {
-    CMBauteil& part = EinzelTeile[static_cast<std::size_t>(*glied)];
-    bool plaziert = false;
-    {
-      const Wiederherstellung wiederherstellung(*glied);
-      *glied = kKettenende;
-      plaziert = PlaziereZusatzteil(part);
-    }
-    if (!plaziert) NimmAchse(part);
-    if (!plaziert && IsZusatzteil(part, aussen)) {
-      *glied = part.lKette;
-      part.lKette = kKettenende;
-    } else {
-      glied = &part.lKette;
-    }
-  }
 }

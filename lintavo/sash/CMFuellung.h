@@ -32,9 +32,9 @@ class LINTAVO_API CMFuellung {
   int I2 = 2;
   int I3 = 1;
   int I4 = 1;
-  double D4 = 0.0;           ///< D4 to D6 are carried and stored only
+  double D4 = 0.0;  ///< D4 to D6 are carried and stored only
   double D5 = 0.0;
   double D6 = 0.0;
-  double D7 = 0.5;           ///< shorter edges of the filling's contour are removed
-  GEOM2_Polygon Umriss;      ///< working outline
+  double D7 = 0.5;       ///< shorter edges of the filling's contour are removed
+  GEOM2_Polygon Umriss;  ///< working outline
 };

@@ -8,7 +8,7 @@
 # Compilers and tools count as present when their command is, wherever it came
 # from; libraries only as packages.
 BUILD_PACKAGES=(g++ cmake ninja-build pkgconf zlib1g-dev libpolyclipping-dev libcairo2-dev
-  libcli11-dev libgtest-dev libexpat1-dev)
+  libcli11-dev libgtest-dev libexpat1-dev locales)
 CHECK_PACKAGES=(clang-format)
 
 command_of() {

@@ -1,0 +1,355 @@
+// The façade as a host uses it.
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <numeric>
+
+#include <gtest/gtest.h>
+#include <zlib.h>
+
+#include "lintavo/api/CFeApi.h"
+
+#include "support/Beispiele.h"
+#include "support/Ordner.h"
+
+namespace lintavo::test {
+namespace {
+
+using Parameter = CFeApiWandOeffnungsParameter;
+
+void Schreibe(const std::string& path, const std::string& bytes) {
+  std::filesystem::create_directories(std::filesystem::path(path).parent_path());
+  std::ofstream(path, std::ios::binary) << bytes;
+}
+
+std::string Lies(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::string Komprimiert(const std::string& text) {
+  std::string crlf;
+  for (const char c : text) crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
+  uLongf length = compressBound(crlf.size());
+  std::string bytes(length, '\0');
+  EXPECT_EQ(compress(reinterpret_cast<Bytef*>(bytes.data()), &length,
+                     reinterpret_cast<const Bytef*>(crlf.data()), crlf.size()),
+            Z_OK);
+  bytes.resize(length);
+  return bytes;
+}
+
+std::string Puffer(const CFeApi& api) {
+  long length = -1;
+  char* block = nullptr;
+  api.WriteToBuffer(&length, &block);
+  std::string text(block, static_cast<std::size_t>(length));
+  api.FreeBuffer(&block);
+  EXPECT_EQ(block, nullptr);
+  api.FreeBuffer(&block);
+  return text;
+}
+
+bool HatAussenteile(const std::string& name) {
+  const CMFenster fenster = Beispiel(name);
+  const std::vector<CMBauteil>& teile = fenster.GetRahmenPtr()->EinzelTeile;
+  return std::any_of(teile.begin(), teile.end(),
+                     [](const CMBauteil& teil) { return teil.IsZusatzteilAussen(); });
+}
+
+class JedeFassade : public testing::TestWithParam<std::string> {};
+
+TEST_P(JedeFassade, BufferAndFileGiveTheWindowBack) {
+  const Ordner ordner;
+  CFeApi api;
+  ASSERT_EQ(api.ReadFromFile(BeispielPfad(GetParam()).c_str()), 1);
+  const std::string text = Puffer(api);
+  EXPECT_EQ(text.back(), '#');
+  CFeApi copy;
+  ASSERT_EQ(copy.ReadFromBuffer(static_cast<long>(text.size()), text.data()), 1);
+  EXPECT_EQ(Puffer(copy), text);
+  ASSERT_EQ(copy.WriteToFile((ordner / "f.aqz").c_str()), 1);
+  ASSERT_EQ(api.ReadFromFile((ordner / "f.aqz").c_str()), 1);
+  EXPECT_EQ(Puffer(api), text);
+}
+
+TEST_P(JedeFassade, FitsIntoAnOpeningWithAnyReveals) {
+  CFeApi api;
+  ASSERT_EQ(api.ReadFromFile(BeispielPfad(GetParam()).c_str()), 1);
+  Parameter none;
+  Parameter reveals;
+  reveals.dLeibungA = 3.0;
+  reveals.dLeibungB = -1.0;
+  reveals.dLeibungC = 2.5;
+  reveals.dLeibungD = 0.5;
+  Parameter splay = reveals;
+  splay.iSchraege1 = 1;
+  splay.dWinkel1 = std::atan(0.25);
+  splay.dTiefe = 20.0;
+  for (const Parameter& param : {none, reveals, splay}) {
+    double width = 0.0;
+    double height = 0.0;
+    ASSERT_EQ(api.GetOeffMasze(param, width, height), 1);
+    const double wantedWidth = width * 1.08;
+    const double wantedHeight = height * 1.04;
+    // Where sides are slanted or bent their margins are those of the shape
+    // before the fit; fitting again closes in.
+    for (int step = 0; step < 12; ++step) {
+      ASSERT_EQ(api.SetBreiteHoehe(param, wantedWidth, wantedHeight), 1);
+      ASSERT_EQ(api.Berechne(), 1);
+    }
+    ASSERT_EQ(api.GetOeffMasze(param, width, height), 1);
+    // A fit without margins sets the grid alone, which knows no outer extra parts.
+    if (HatAussenteile(GetParam())) continue;
+    EXPECT_NEAR(width, wantedWidth, 1e-6);
+    EXPECT_NEAR(height, wantedHeight, 1e-6);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, JedeFassade, testing::ValuesIn(BeispielNamen()),
+                         BeispielTestName);
+
+TEST(Fassade, FitsARectangleInOneStep) {
+  CFeApi api;
+  ASSERT_EQ(api.ReadFromFile(BeispielPfad("zweifluegelig_mit_pfosten.aqz").c_str()), 1);
+  Parameter param;
+  param.dLeibungA = 4.0;
+  param.dLeibungC = 2.0;
+  param.dLeibungD = 1.0;
+  ASSERT_EQ(api.SetBreiteHoehe(param, 150.0, 120.0), 1);
+  ASSERT_EQ(api.Berechne(), 1);
+  // The frame is covered by 2 + 1 at the sides and 4 at the top.
+  EXPECT_NEAR(api.GetFensterBreite(), 153.0, 1e-9);
+  EXPECT_NEAR(api.GetFensterHoehe(), 124.0, 1e-9);
+}
+
+TEST(Fassade, OpeningParametersCompareByMagnitude) {
+  Parameter a;
+  Parameter b;
+  a.dLeibungC = 2.0;
+  b.dLeibungC = -2.0;
+  EXPECT_TRUE(a == b);
+  b.dLeibungC = 2.1;
+  EXPECT_TRUE(a != b);
+  b = a;
+  b.iSchraege2 = 1;
+  EXPECT_TRUE(a != b);
+}
+
+TEST(Fassade, SettersRefuseWhatIsNoMeasureAndChangeTheNextCalculation) {
+  CFeApi api;
+  ASSERT_EQ(api.ReadFromFile(BeispielPfad("drehkipp_einfluegelig.aqz").c_str()), 1);
+  const double nan = std::nan("");
+  for (const double bad : {0.0, -1.0, 1e-7, nan, HUGE_VAL}) {
+    EXPECT_EQ(api.SetRahmenBreite(bad), 0) << bad;
+    EXPECT_EQ(api.SetFluegelRahmenDicke(0, bad), 0) << bad;
+    EXPECT_EQ(api.SetZMaszLaenge(0, bad), 0) << bad;
+  }
+  EXPECT_EQ(api.SetFluegelUeberschlag(0, -0.1), 0);
+  EXPECT_EQ(api.SetFluegelUeberschlag(0, 0.0), 1);
+
+  const auto area = [&](const CFeApiPolygon& p) {
+    double sum = 0.0;
+    for (int i = 0; i < p.lAnzahl; ++i) {
+      const int n = (i + 1) % p.lAnzahl;
+      sum += p.pdX[i] * p.pdY[n] - p.pdX[n] * p.pdY[i];
+    }
+    return sum / 2.0;
+  };
+  ASSERT_EQ(api.SetRahmenBreite(5.0), 1);
+  ASSERT_EQ(api.SetFluegelRahmenBreite(0, 10.0), 1);
+  ASSERT_EQ(api.SetFluegelUeberschlag(0, 2.0), 1);
+  ASSERT_EQ(api.Berechne(), 1);
+  // 100 x 130 less 5 - 2 + 10 on every side.
+  CFeApiPolygon innen;
+  ASSERT_EQ(api.GetFluegelInnenPolygon(0, 0.0, innen), 1);
+  EXPECT_NEAR(area(innen), 74.0 * 104.0, 1e-9);
+  ASSERT_EQ(api.GetFluegelInnenPolygon(0, 1.5, innen), 1);
+  EXPECT_NEAR(area(innen), 77.0 * 107.0, 1e-9);
+  EXPECT_DOUBLE_EQ(api.GetFluegelUeberschlag(0), 2.0);
+}
+
+TEST(Fassade, DimensionLengthsKeepTheirSignAndShareByName) {
+  CFeApi api;
+  const std::string text =
+      "[Allgemeines]#Name=A#[Achsen]#Y1=100#X1=50#X2=50#"
+      "[Masz1]#Name=Teil#Laenge=-50,10#Richtung=1#Knoten1=2,0#Knoten2=1,0#"
+      "[Masz2]#Name=TEIL#Laenge=100,10#Richtung=0#Knoten1=0,0#Knoten2=0,1#"
+      "[Rahmen]#Rahmendicke=7#RahmenDefaults=7,0,1,2,1,2#Knoten1=0,0#Knoten2=2,1#"
+      "[Fluegel1]#Typ=1,0#Rahmendicke=7#RahmenDefaults=7,1,1,3,1,3#Knoten1=0,0#Knoten2=2,1#";
+  ASSERT_EQ(api.ReadFromBuffer(static_cast<long>(text.size()), text.data()), 1);
+  EXPECT_EQ(api.SetZMaszLaengeMitName(1, 60.0), 1);
+  EXPECT_DOUBLE_EQ(api.GetZMaszLaenge(0), -60.0);
+  EXPECT_DOUBLE_EQ(api.GetZMaszLaenge(1), 60.0);
+  long h = 7;
+  long v = 7;
+  // The horizontal one spans half the window only.
+  EXPECT_EQ(api.IsZMaszBreiteHoehe(h, v), 0);
+  EXPECT_EQ(h, -1);
+  EXPECT_EQ(v, 1);
+  EXPECT_EQ(api.SetBreiteHoehe(Parameter(), 120.0, 120.0), 0);
+  EXPECT_DOUBLE_EQ(api.GetZMaszLaenge(1), 60.0);
+}
+
+TEST(Fassade, AnEmptyWindowAndBadIndicesAnswerFailureValues) {
+  CFeApi api;
+  char name[256];
+  CFeApiPolygon polygon;
+  double d[3];
+  EXPECT_EQ(api.GetErrorID(), 0);
+  EXPECT_EQ(api.GetAnzahlFluegel(), 0);
+  EXPECT_EQ(api.GetFensterBreite(), 0.0);
+  EXPECT_EQ(api.Berechne(), 1);
+  ASSERT_EQ(api.ReadFromFile(BeispielPfad("raster_3x3.aqz").c_str()), 1);
+  for (const long i : {-1L, 9L, 1L << 40, -(1L << 40)}) {
+    EXPECT_EQ(api.GetFluegelName(i, name), 0);
+    EXPECT_EQ(api.GetAnzahlSprossen(i), -1);
+    EXPECT_EQ(api.GetFluegelRahmenBreite(i), 0.0);
+    EXPECT_EQ(api.GetFluegelZVersatz(i, 0), 0.0);
+    EXPECT_EQ(api.GetFluegelFuellungArt(i), eFeApiFuellungGlas);
+    EXPECT_EQ(api.GetFluegelInnenPolygon(i, 0.0, polygon), 0);
+    EXPECT_EQ(api.GetRahmenBauteilUmriss(1, i, 0, polygon, d[0], d[1], d[2]), 0);
+    EXPECT_EQ(api.GetRahmenBauteilUmriss(1, 0, i == -1 ? -2 : i, polygon, d[0], d[1], d[2]), 0);
+    EXPECT_EQ(api.GetFluegelBauteilUmriss(i, 0, 0, 0, polygon, d[0], d[1], d[2]), 0);
+    EXPECT_EQ(api.GetFluegelAnzahlBauteile(1, i), 0);
+    EXPECT_EQ(api.GetZMaszLaenge(i), 0.0);
+    EXPECT_EQ(api.SetSprossenBreite(0, i, 2.0), 0);
+  }
+  EXPECT_EQ(api.GetAnzahlRahmenBauteile(3), 0);
+}
+
+TEST(Fassade, OutlinesComeWithLengthAndCutAnglesForACuttingList) {
+  CFeApi api;
+  ASSERT_EQ(api.ReadFromFile(BeispielPfad("drehkipp_einfluegelig.aqz").c_str()), 1);
+  CFeApiPolygon polygon;
+  double length = 0.0;
+  double start = 0.0;
+  double end = 0.0;
+  ASSERT_EQ(api.GetAnzahlRahmenBauteile(1), 4);
+  ASSERT_EQ(api.GetRahmenBauteilUmriss(1, 0, 0, polygon, length, start, end), 1);
+  EXPECT_EQ(polygon.lAnzahl, 4);
+  EXPECT_NEAR(length, 100.0, 1e-9);
+  EXPECT_NEAR(start, 45.0, 1e-9);
+  EXPECT_NEAR(end, -45.0, 1e-9);
+  ASSERT_EQ(api.GetRahmenBauteilUmriss(1, 1, -1, polygon, length, start, end), 1);
+  EXPECT_NEAR(length, 130.0, 1e-9);
+  EXPECT_EQ(api.GetAnzahlRahmenBauteilSegmente(1, 1), 1);
+}
+
+TEST(Fassade, BufferLinesEndWithTheirSeparator) {
+  CFeApi api;
+  std::string text = "[Allgemeines]#Name=A";
+  EXPECT_EQ(api.ReadFromBuffer(static_cast<long>(text.size()), text.data()), 0);
+  char name[256];
+  EXPECT_EQ(api.GetFensterBezeichnung(name), 0);
+  // Any bytes: nothing is lost but what does not parse.
+  std::string noise(4096, '\0');
+  std::iota(noise.begin(), noise.end(), '\0');
+  EXPECT_EQ(api.ReadFromBuffer(static_cast<long>(noise.size()), noise.data(), 13), 0);
+  EXPECT_EQ(api.ReadFromBuffer(0, nullptr), 0);
+  EXPECT_EQ(api.ReadFromBuffer(-5, noise.data()), 0);
+}
+
+TEST(Fassade, ErrorsAreReportedByNumberAndText) {
+  CFeApi api;
+  const std::string path = "/gibt/es/nicht/" + std::string(300, 'x');
+  EXPECT_EQ(api.ReadFromFile(path.c_str()), 0);
+  EXPECT_EQ(api.GetErrorID(), 28);
+  char text[256];
+  EXPECT_EQ(api.GetErrorMsg(text), 256);
+  EXPECT_EQ(text[255], 'x');
+  EXPECT_EQ(api.ReadFromFile(nullptr), 0);
+  api.DeleteFenster();
+  EXPECT_EQ(api.GetErrorID(), 0);
+  EXPECT_EQ(api.GetErrorMsg(text), 0);
+  EXPECT_EQ(text[0], '\0');
+}
+
+TEST(Komprimiert, ReadsTheSameWindowAsThePlainFile) {
+  const Ordner ordner;
+  for (const std::string& name : BeispielNamen()) {
+    const std::string plain = Lies(BeispielPfad(name));
+    if (plain.size() > 9000) continue;
+    Schreibe(ordner / "f.cqz", Komprimiert(plain));
+    CFeApi api;
+    CFeApi compressed;
+    ASSERT_EQ(api.ReadFromFile(BeispielPfad(name).c_str()), 1);
+    ASSERT_EQ(compressed.ReadFromCompressedFile((ordner / "f.cqz").c_str()), 1) << name;
+    EXPECT_EQ(Puffer(compressed), Puffer(api));
+    char one[256];
+    char two[256];
+    CFeApi::GetBezeichnungFromFile(BeispielPfad(name).c_str(), one);
+    CFeApi::GetBezeichnungFromFile((ordner / "f.cqz").c_str(), two);
+    EXPECT_STREQ(one, two);
+  }
+}
+
+TEST(Komprimiert, DamagedTruncatedAndOversizedStreamsNeverCrash) {
+  const Ordner ordner;
+  const std::string whole = Komprimiert(Lies(BeispielPfad("raster_3x3.aqz")));
+  CFeApi api;
+  for (std::size_t length = 0; length < whole.size(); length += 7) {
+    Schreibe(ordner / "f.cqz", whole.substr(0, length));
+    api.ReadFromCompressedFile((ordner / "f.cqz").c_str());
+    std::string damaged = whole;
+    damaged[length] = static_cast<char>(damaged[length] ^ 0x55);
+    Schreibe(ordner / "f.cqz", damaged);
+    api.ReadFromCompressedFile((ordner / "f.cqz").c_str());
+    EXPECT_GE(api.GetAnzahlFluegel(), 0);
+  }
+  // Text past 10000 bytes is lost: the window's head still counts.
+  const std::string head = "[Allgemeines]\nName=Kopf\n";
+  Schreibe(ordner / "f.cqz", Komprimiert(head + std::string(20000, 'x') + "\n[Achsen]\nX1=5\n"));
+  EXPECT_EQ(api.ReadFromCompressedFile((ordner / "f.cqz").c_str()), 0);
+  char name[256];
+  EXPECT_EQ(api.GetFensterBezeichnung(name), 4);
+  EXPECT_EQ(api.ReadFromCompressedFile((ordner / "fehlt.cqz").c_str()), 0);
+}
+
+TEST(Dateisuche, EndingsAreComparedWithoutCaseOrDot) {
+  EXPECT_EQ(CFeApi::IsFileCompressed("X.CQZ"), 1);
+  EXPECT_EQ(CFeApi::IsFileCompressed("cqz"), 1);
+  EXPECT_EQ(CFeApi::IsFileCompressed("qz"), 0);
+  EXPECT_EQ(CFeApi::IsFileCompressed(nullptr), 0);
+  EXPECT_EQ(CFeApi::IsFileTemporary("a.tmp.bak"), 0);
+  EXPECT_EQ(CFeApi::IsFileTemporary("a.TMP"), 1);
+}
+
+TEST(Dateisuche, FindsAMacroFileInASubfolder) {
+  const Ordner ordner;
+  char path[256];
+  EXPECT_EQ(CFeApi::GetValidMakroFile((ordner / "").c_str(), path), 0);
+  EXPECT_EQ(path[0], '\0');
+  Schreibe(ordner / "a/b/notiz.txt", "");
+  Schreibe(ordner / "a/b/Fenster.AQZ", "");
+  EXPECT_EQ(CFeApi::GetValidMakroFile((ordner / "").c_str(), path), 1);
+  EXPECT_TRUE(std::filesystem::exists(path)) << path;
+  EXPECT_EQ(CFeApi::GetValidMakroFile(nullptr, path), 0);
+}
+
+TEST(Dateisuche, TheDesignationOfACompressedFileIsItsFirstLineThatBeginsWithName) {
+  const Ordner ordner;
+  char name[256];
+  Schreibe(ordner / "f.cqz", Komprimiert("[Allgemeines]\nNAMEN=x\nName=y\n"));
+  EXPECT_EQ(CFeApi::GetBezeichnungFromFile((ordner / "f.cqz").c_str(), name), 2);
+  EXPECT_STREQ(name, "=x");
+  EXPECT_EQ(CFeApi::GetBezeichnungFromFile((ordner / "fehlt.aqz").c_str(), name), 0);
+}
+
+TEST(Polygonsatz, SetOrderAndDelete) {
+  CFeApiPolygon polygon;
+  polygon.SetOrder(3);
+  EXPECT_EQ(polygon.lAnzahl, 3);
+  polygon.pdX[3] = 1.0;  // one more than counted
+  CFeApiPolygon copy = polygon;
+  copy.pdX[0] = 5.0;
+  EXPECT_EQ(polygon.pdX[0], 0.0);
+  polygon.Delete();
+  EXPECT_EQ(polygon.lAnzahl, 0);
+  EXPECT_EQ(polygon.pdX, nullptr);
+}
+
+}  // namespace
+}  // namespace lintavo::test

@@ -1,0 +1,149 @@
+// Mullions and transoms: set by themselves, cut to the frame and each other.
+#include <gtest/gtest.h>
+
+#include "lintavo/model/CMFenster.h"
+
+#include "support/Beispiele.h"
+
+namespace lintavo::test {
+namespace {
+
+constexpr double kBreite = 8.0;
+
+CMBauteil Vorlage() {
+  CMBauteil vorlage;
+  vorlage.dBreite = kBreite;
+  return vorlage;
+}
+
+void ErwarteAchse(const CMFenster& fenster, long i, XY a, XY b) {
+  const CMBauteil* bauteil = fenster.GetRahmenPtr()->GetEinzelBauteilPtr(i);
+  ASSERT_NE(bauteil, nullptr);
+  XY start;
+  XY ende;
+  ASSERT_TRUE(bauteil->GetAchspunkte(start, ende));
+  EXPECT_NEAR(start.x, a.x, 1e-9) << "part " << i;
+  EXPECT_NEAR(start.y, a.y, 1e-9) << "part " << i;
+  EXPECT_NEAR(ende.x, b.x, 1e-9) << "part " << i;
+  EXPECT_NEAR(ende.y, b.y, 1e-9) << "part " << i;
+}
+
+TEST(Pfosten, TwoSashesGiveOneMullionBetweenTheInnerFrameEdges) {
+  CMFenster fenster = Raster(2, 1, 50.0, 100.0);
+  fenster.GetPfostenVorlage() = Vorlage();
+  for (int run = 0; run < 2; ++run) {
+    ASSERT_TRUE(fenster.Berechne(true));
+    ASSERT_EQ(fenster.GetRahmenPtr()->lGetAnzahlEinzelBauteile(), 1);
+    ASSERT_EQ(fenster.GetRahmenPtr()->EinzelTeile.size(), 1u);
+    ErwarteAchse(fenster, 0, {50.0, 7.0}, {50.0, 93.0});
+  }
+  const CMBauteil& pfosten = *fenster.GetRahmenEinzelBauteilPtr(0);
+  EXPECT_EQ(pfosten.kAnfang.J(), 1);
+  EXPECT_EQ(pfosten.kEnde.K(), 1);
+  // Without the automatic none is made.
+  CMFenster ohne = Raster(2, 1, 50.0, 100.0);
+  ASSERT_TRUE(ohne.Berechne(false));
+  EXPECT_TRUE(ohne.GetRahmenPtr()->EinzelTeile.empty());
+}
+
+TEST(Pfosten, AGridGivesFullLengthMembersThatCrossWhole) {
+  CMFenster fenster = Raster(3, 3, 50.0, 50.0);
+  fenster.GetPfostenVorlage() = Vorlage();
+  ASSERT_TRUE(fenster.Berechne(true));
+  EXPECT_EQ(fenster.GetRahmenPtr()->lGetAnzahlEinzelBauteile(), 4);
+  for (long i = 0; i < 4; ++i) {
+    EXPECT_NEAR(fenster.GetRahmenEinzelBauteilPtr(i)->GetAchsLaenge(), 136.0, 1e-9);
+  }
+}
+
+TEST(Pfosten, AMullionEndsAtTheTransomItMeets) {
+  CMFenster fenster = Raster(2, 2, 50.0, 50.0);
+  fenster.AddRahmenEinzelBauteil(CMKnoten(1, 0), CMKnoten(1, 1), Vorlage());
+  fenster.AddRahmenEinzelBauteil(CMKnoten(0, 1), CMKnoten(2, 1), Vorlage());
+  ASSERT_TRUE(fenster.Berechne(false));
+  ErwarteAchse(fenster, 0, {50.0, 7.0}, {50.0, 46.0});
+  ErwarteAchse(fenster, 1, {7.0, 50.0}, {93.0, 50.0});
+}
+
+TEST(Pfosten, WhereEndsLieInEachOtherTheEarlierRunsThrough) {
+  CMFenster fenster = Raster(2, 2, 50.0, 50.0);
+  fenster.AddRahmenEinzelBauteil(CMKnoten(1, 1), CMKnoten(1, 0), Vorlage());
+  fenster.AddRahmenEinzelBauteil(CMKnoten(0, 1), CMKnoten(1, 1), Vorlage());
+  ASSERT_TRUE(fenster.Berechne(false));
+  ErwarteAchse(fenster, 0, {50.0, 50.0}, {50.0, 7.0});
+  ErwarteAchse(fenster, 1, {7.0, 50.0}, {46.0, 50.0});
+}
+
+TEST(Pfosten, FollowTheirNodesWhenADimensionMovesAnAxis) {
+  CMFenster fenster = Raster(2, 1, 50.0, 100.0);
+  fenster.AddRahmenEinzelBauteil(CMKnoten(1, 0), CMKnoten(1, 1), Vorlage());
+  ASSERT_TRUE(fenster.Berechne(false));
+  CMZusatzMasz masz;
+  masz.SetHorizontal(CMKnoten(0, 0), CMKnoten(2, 0));
+  masz.dLaenge = 160.0;
+  fenster.AddZusatzMasz(masz);
+  ASSERT_TRUE(fenster.Berechne(false));
+  ErwarteAchse(fenster, 0, {80.0, 7.0}, {80.0, 93.0});
+}
+
+TEST(Pfosten, OneWithNothingInsideTheFrameIsNotCounted) {
+  CMFenster fenster = Raster(2, 1, 50.0, 100.0);
+  fenster.AddRahmenEinzelBauteil(CMKnoten(0, 0), CMKnoten(2, 0), Vorlage());
+  fenster.AddRahmenEinzelBauteil(CMKnoten(1, 1), CMKnoten(1, 1), Vorlage());
+  for (int run = 0; run < 2; ++run) {
+    ASSERT_TRUE(fenster.Berechne(false));
+    EXPECT_EQ(fenster.GetRahmenPtr()->lGetAnzahlEinzelBauteile(), 0);
+  }
+}
+
+TEST(Fluegel, OverlapAndZeroAreaAreRefusedAndLeaveTheWindowAsItWas) {
+  CMFenster fenster = Raster(3, 1, 50.0, 100.0);
+  const auto number = [&](const CMKnoten& k1, const CMKnoten& k2) {
+    try {
+      fenster.AddFluegel(eFormRechteck, 0, k1, k2);
+    } catch (const CMException& e) {
+      return e.iNummer;
+    }
+    return 0;
+  };
+  EXPECT_EQ(number(CMKnoten(1, 0), CMKnoten(3, 1)), 23);
+  EXPECT_EQ(number(CMKnoten(1, 0), CMKnoten(1, 1)), 22);
+  EXPECT_EQ(fenster.GetAnzahlFluegel(), 3);
+  EXPECT_EQ(fenster.AddFluegel(5, 0, CMKnoten(0, 0), CMKnoten(1, 1)), nullptr);
+}
+
+TEST(Fluegel, ASashThatTheFrameSwallowsFailsByItsNumber) {
+  CMFenster fenster = Raster(2, 1, 50.0, 100.0);
+  fenster.GetAchsen().SetAchsAbstX(2, 5.0);
+  fenster.GetFluegelPtr(1L)->SetRahmenDefaults(7.8, 6.8, 0.0, 1, 3);
+  fenster.AddRahmenEinzelBauteil(CMKnoten(1, 0), CMKnoten(1, 1), Vorlage());
+  EXPECT_FALSE(fenster.Berechne(false));
+  CString text;
+  EXPECT_EQ(fenster.GetFehler(text), 20);
+  EXPECT_STREQ(text, "Das Rahmenpolygon von Flügel Nr.1 kann nicht erzeugt werden !");
+}
+
+TEST(Fluegel, ASashWhoseInnerContourVanishesFailsWithMessage22) {
+  CMFenster fenster = Raster(1, 1, 50.0, 100.0);
+  fenster.GetFluegelPtr(0L)->SetRahmenDefaults(25.0, 6.8, 0.0, 1, 3);
+  EXPECT_FALSE(fenster.Berechne(false));
+  EXPECT_EQ(fenster.GetFehler(), 22);
+}
+
+TEST(Fluegel, CopiesAreDeepAndDeletingClosesTheGap) {
+  CMFenster fenster = Raster(3, 1, 50.0, 100.0);
+  fenster.GetFluegelPtr(2L)->SetName("Drei");
+  CMFenster copy = fenster;
+  copy.GetFluegelPtr(0L)->SetName("Kopie");
+  EXPECT_EQ(fenster.GetFluegelPtr(0L)->strName, "");
+  EXPECT_TRUE(fenster.DeleteFluegel(1));
+  EXPECT_FALSE(fenster.DeleteFluegel(2));
+  EXPECT_EQ(fenster.GetFluegelNr(fenster.GetFluegelPtr("DREI")), 1);
+  EXPECT_EQ(copy.GetAnzahlFluegel(), 3);
+  const CMFenster& itself = copy;
+  copy = itself;
+  EXPECT_EQ(copy.GetFluegelPtr(2L)->strName, "Drei");
+}
+
+}  // namespace
+}  // namespace lintavo::test

@@ -1,0 +1,200 @@
+// Offset and clean-up of outlines.
+#include <cmath>
+#include <limits>
+#include <random>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "lintavo/geom/GEOM2_Polygon.h"
+#include "lintavo/geom/Toleranzen.h"
+
+#include "tests/support/Geometrie.h"
+
+using namespace lintavo::test;
+
+namespace {
+
+GEOM2_Polygon Versetzt(const GEOM2_Polygon& p, const std::vector<double>& abstaende,
+                       bool bereinigen = true) {
+  GEOM2_Polygon ergebnis = Rechteck(7, 7, 8, 8);
+  const bool ok = p.ParallelPolygon(abstaende.data(), ergebnis, bereinigen);
+  EXPECT_EQ(ok, ergebnis.GetAnzahl() >= 3);
+  EXPECT_TRUE(ok || ergebnis.GetAnzahl() == 0);
+  return ergebnis;
+}
+
+GEOM2_Polygon Versetzt(const GEOM2_Polygon& p, double d, bool bereinigen = true) {
+  return Versetzt(p, std::vector<double>(static_cast<std::size_t>(p.GetAnzahl()), d), bereinigen);
+}
+
+TEST(Versatz, PositiveIsRightOfTheEdgeWhateverTheOrientation) {
+  const GEOM2_Polygon quadrat = Poly("(0,0,1) (10,0,2) (10,10,3) (0,10,4)");
+  EXPECT_TRUE(
+      GleichesPolygon(Poly("(-1,-1,1) (11,-1,2) (11,11,3) (-1,11,4)"), Versetzt(quadrat, 1)));
+  EXPECT_TRUE(GleichesPolygon(Poly("(1,1,1) (9,1,2) (9,9,3) (1,9,4)"), Versetzt(quadrat, -1)));
+  const GEOM2_Polygon uhrzeiger = Poly("(0,0,1) (0,10,2) (10,10,3) (10,0,4)");
+  EXPECT_TRUE(GleichesPolygon(Poly("(1,1,1) (1,9,2) (9,9,3) (9,1,4)"), Versetzt(uhrzeiger, 1)));
+  EXPECT_TRUE(GleichesPolygon(Poly("(-4,-1,1) (-4,12,2) (13,12,3) (13,-1,4)"),
+                              Versetzt(uhrzeiger, {-4, -2, -3, -1})));
+}
+
+TEST(Versatz, DropsCornersOfParallelNeighboursAndOfEdgesWithoutLength) {
+  EXPECT_TRUE(GleichesPolygon(Rechteck(0, 0, 10, 10),
+                              Versetzt(Poly("(0,0) (5,0) (10,0) (10,10) (0,10)"), 0, false), 0.0));
+  EXPECT_TRUE(GleichesPolygon(Poly("(-1,-1) (11,11) (-1,11)"),
+                              Versetzt(Poly("(0,0) (10,0) (10,0) (10,10) (0,10)"), 1, false)));
+  EXPECT_EQ(Versetzt(Poly("(0,0) (10,0) (5,0)"), 1).GetAnzahl(), 0);
+}
+
+TEST(Versatz, BareCornersFoldOverAndCleanOnesVanish) {
+  // Both pairs of sides turn round, so the bare ring winds the same way again.
+  EXPECT_TRUE(GleichesPolygon(Poly("(6,6) (4,6) (4,4) (6,4)"),
+                              Versetzt(Rechteck(0, 0, 10, 10), -6, false)));
+  for (const double d : {-5.0, -6.0, -11.0, -1e6}) {
+    EXPECT_EQ(Versetzt(Rechteck(0, 0, 10, 10), d).GetAnzahl(), 0) << d;
+  }
+  GEOM2_Polygon bisher = Rechteck(1, 2, 3, 4);
+  Rechteck(0, 0, 10, 10).ParallelPolygon(-6.0, bisher);
+  EXPECT_TRUE(GleichesPolygon(Rechteck(1, 2, 3, 4), bisher, 0.0));
+}
+
+TEST(Versatz, VanishedSidesAreDroppedWithTheirAttribute) {
+  // The roof's flat top, 2 wide between 45 degree slopes, shrinks by 2 tan(22.5) per unit.
+  const GEOM2_Polygon dach = Poly("(0,0,1) (12,0,2) (12,10,3) (7,15,4) (5,15,5) (0,10,6)");
+  // The slopes meet over x = 6 at y = 16; moved in by 3 they meet 3 * sqrt(2) lower.
+  const GEOM2_Polygon innen = Versetzt(dach, -3);
+  const double knick = 10 - 3 * std::tan(22.5 * lintavo::kPi / 180);
+  GEOM2_Polygon erwartet = Poly("(3,3,1) (9,3,2) (9,0,3) (6,0,5) (3,0,6)");
+  erwartet.SetPunkt(2, 9, knick);
+  erwartet.SetPunkt(3, 6, 16 - 3 * std::sqrt(2.0));
+  erwartet.SetPunkt(4, 3, knick);
+  EXPECT_TRUE(GleichesPolygon(erwartet, innen));
+}
+
+TEST(Versatz, ConcaveOutlinesComeOutWithoutLoops) {
+  const GEOM2_Polygon u = Poly("(0,0) (30,0) (30,20) (21,20) (21,5) (10,5) (10,20) (0,20)");
+  EXPECT_TRUE(GleicherRing(Poly("(1,1) (29,1) (29,19) (22,19) (22,4) (9,4) (9,19) (1,19)"),
+                           Versetzt(u, -1)));
+  // The base is 5 thick: both arms are left, 10 and 9 wide; the wider one stays.
+  EXPECT_TRUE(GleicherRing(Rechteck(3, 3, 7, 17), Versetzt(u, -3)));
+  // The notch closes.
+  EXPECT_TRUE(GleicherRing(Rechteck(-6, -6, 36, 26), Versetzt(u, 6)));
+  EXPECT_EQ(Versetzt(u, -5.1).GetAnzahl(), 0);
+
+  GEOM2_Polygon l = Poly("(0,0,1) (40,0,2) (40,4,3) (20,4,4) (20,30,5) (0,30,6)");
+  EXPECT_TRUE(GleichesPolygon(Poly("(3,3,1) (17,3,4) (17,27,5) (3,27,6)"), Versetzt(l, -3)));
+  l.Umkehren();
+  EXPECT_TRUE(GleicherRing(Poly("(3,3) (3,27) (17,27) (17,3)"), Versetzt(l, 3)));
+}
+
+TEST(Versatz, ThereAndBackIsTheIdentityInEveryDirection) {
+  const GEOM2_Polygon haus = Poly("(0,0,1) (800,0,2) (800,500,3) (400,900,4) (0,500,5)");
+  for (const double grad : {0.0, 1.0, 33.0, 45.0, 89.0, 89.9, 89.99, 89.999, 90.0, 123.0}) {
+    const GEOM2_Polygon p = Gedreht(haus, grad);
+    EXPECT_TRUE(GleichesPolygon(p, Versetzt(Versetzt(p, 60), -60), 1e-8)) << grad;
+    EXPECT_TRUE(GleichesPolygon(p, Versetzt(p, 0), 0.0)) << grad;
+    EXPECT_TRUE(GleichesPolygon(Gedreht(Versetzt(haus, -60), grad), Versetzt(p, -60), 1e-8))
+        << grad;
+  }
+  GEOM2_Polygon selbst = haus;
+  selbst.ParallelPolygon(5.0, selbst);
+  EXPECT_TRUE(GleichesPolygon(Versetzt(haus, 5), selbst, 0.0));
+}
+
+/// Cuts away what lies to the right of each edge moved by its distance: the definition of
+/// the inward offset of a convex outline.
+double FlaecheDerHalbebenen(const GEOM2_Polygon& p, const std::vector<double>& abstaende) {
+  GEOM2_Polygon rest = Rechteck(-1e4, -1e4, 1e4, 1e4);
+  for (int i = 0; i < p.GetAnzahl(); ++i) {
+    XY a, b;
+    p.GetKante(i, a, b);
+    const double l = p.GetKantenLaenge(i);
+    const XY n{(b.y - a.y) / l, (a.x - b.x) / l};
+    const double c = n.x * a.x + n.y * a.y + abstaende[static_cast<std::size_t>(i)];
+    GEOM2_Polygon neu;
+    for (int k = 0; k < rest.GetAnzahl(); ++k) {
+      XY s, t;
+      rest.GetKante(k, s, t);
+      const double fs = n.x * s.x + n.y * s.y - c;
+      const double ft = n.x * t.x + n.y * t.y - c;
+      if (fs <= 0) neu.AddPunkt(s.x, s.y);
+      if ((fs < 0) != (ft < 0)) {
+        neu.AddPunkt(s.x + (t.x - s.x) * fs / (fs - ft), s.y + (t.y - s.y) * fs / (fs - ft));
+      }
+    }
+    rest = neu;
+  }
+  return rest.GetFlaeche();
+}
+
+TEST(Versatz, OfConvexOutlinesIsExact) {
+  std::mt19937 zufall(20240611);
+  SCOPED_TRACE("seed 20240611");
+  std::uniform_real_distribution<> eins(0, 1);
+  int leer = 0;
+  for (int lauf = 0; lauf < 1000; ++lauf) {
+    const int n = 3 + static_cast<int>(eins(zufall) * 10);
+    GEOM2_Polygon p;
+    std::vector<double> abstaende;
+    for (int i = 0; i < n; ++i) {
+      const double winkel = 2 * lintavo::kPi * (i + 0.8 * eins(zufall)) / n;
+      p.AddPunkt(50 * std::cos(winkel), 30 * std::sin(winkel));
+      abstaende.push_back(-25 * eins(zufall) + (lauf % 3));
+    }
+    const double flaeche = FlaecheDerHalbebenen(p, abstaende);
+    const GEOM2_Polygon innen = Versetzt(p, abstaende);
+    leer += innen.GetAnzahl() == 0 ? 1 : 0;
+    ASSERT_NEAR(innen.GetFlaeche(), flaeche, 1e-5) << Text(p);
+    ASSERT_TRUE(IstSchleifenfrei(innen));
+  }
+  EXPECT_GT(leer, 10);
+  EXPECT_LT(leer, 500);
+}
+
+TEST(Versatz, HostileDistancesGiveNothing) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_EQ(Versetzt(Rechteck(0, 0, 10, 10), {nan, 1, 1, 1}).GetAnzahl(), 0);
+  EXPECT_EQ(Versetzt(Rechteck(0, 0, 10, 10), 1e308).GetAnzahl(), 0);
+  EXPECT_EQ(Versetzt(Rechteck(0, 0, nan, 10), 1).GetAnzahl(), 0);
+  EXPECT_EQ(Versetzt(GEOM2_Polygon(), {}).GetAnzahl(), 0);
+}
+
+TEST(Bereinigen, DropsRepeatedAndCollinearVertices) {
+  GEOM2_Polygon p = Poly("(0,0,1) (5,0,2) (10,0,3) (10,0,4) (10,10,5) (0,10,6) (0,0,7)");
+  EXPECT_TRUE(p.Bereinigen(1e-6));
+  // Of the two vertices at (10,0) and of the closing pair the later one stays.
+  EXPECT_TRUE(GleichesPolygon(Poly("(0,0,1) (10,0,4) (10,10,5) (0,10,6)"), p, 0.0));
+  EXPECT_TRUE(p.Bereinigen(1e-6));
+  EXPECT_EQ(p.GetAnzahl(), 4);
+
+  GEOM2_Polygon strich = Poly("(0,0) (10,0) (5,0)");
+  EXPECT_FALSE(strich.Bereinigen(1e-6));
+  EXPECT_EQ(strich.GetAnzahl(), 0);
+  GEOM2_Polygon punkt = Poly("(1,1)");
+  EXPECT_FALSE(punkt.Bereinigen(1e-6));
+  EXPECT_EQ(punkt.GetAnzahl(), 1);
+}
+
+TEST(Bereinigen, CutsOffLoopsAndFolds) {
+  // A small loop of the other winding hangs on the corner (10,10).
+  GEOM2_Polygon schleife = Poly("(0,0,1) (10,0,2) (10,12,3) (12,12,4) (12,10,5) (0,10,6)");
+  EXPECT_TRUE(schleife.Bereinigen(1e-6));
+  EXPECT_TRUE(GleichesPolygon(Poly("(0,0,1) (10,0,2) (10,10,5) (0,10,6)"), schleife));
+  GEOM2_Polygon falte = Poly("(0,0) (10,0) (10,10) (5,10) (5,20) (5,10) (0,10)");
+  EXPECT_TRUE(falte.Bereinigen(1e-6));
+  EXPECT_TRUE(GleicherRing(Rechteck(0, 0, 10, 10), falte));
+  GEOM2_Polygon uhrzeiger = Poly("(0,0) (0,10) (12,10) (12,12) (10,12) (10,0)");
+  EXPECT_TRUE(uhrzeiger.Bereinigen(1e-6));
+  EXPECT_TRUE(GleicherRing(Poly("(0,0) (0,10) (10,10) (10,0)"), uhrzeiger));
+}
+
+TEST(Bereinigen, NeverWearsAFineArcAway) {
+  // 20000 sides; each corner alone strays by 100 * (pi / 20000)^2 / 2 = 1.2e-6.
+  GEOM2_Polygon kreis = Vieleck(20000, 100);
+  EXPECT_TRUE(kreis.Bereinigen(1e-4, false));
+  EXPECT_LT(kreis.GetAnzahl(), 20000);
+  EXPECT_NEAR(kreis.GetFlaeche(), lintavo::kPi * 100 * 100, 2e-4 * 200 * lintavo::kPi);
+}
+
+}  // namespace
