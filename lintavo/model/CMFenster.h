@@ -242,6 +242,9 @@ class LINTAVO_API CMFenster {
   /// The same for a given dimension line.
   static bool GetMaszBegrenzung(const CMStrecke& s, double dPfeilLaenge, double dPfeilBreite,
                                 GEOM2_Polygon& p1, GEOM2_Polygon& p2);
+  /// Appends the opening symbol of sash `i`. False when there is no such sash or it
+  /// has no symbol.
+  bool GetFluegelOeffnungsSymbol(long i, std::vector<CMStrecke>& lines) const;
   /// The front view of the calculated window, hidden lines removed: frame, mullions
   /// and transoms, extra parts, and of each sash its frame, bars, slats and filling.
   ///

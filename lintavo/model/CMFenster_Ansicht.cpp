@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <tuple>
+#include <utility>
 
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
@@ -63,8 +64,10 @@ std::vector<const CMFensterSatz*> Ebenen(const CMFenster& fenster, int seite) {
                        fluegel.bZuerstAufgehend == vonHinten, vonHinten ? -i : i},
                       &fluegel});
   }
-  std::sort(ebenen.begin(), ebenen.end());
+  std::sort(ebenen.begin(), ebenen.end(),
+            [](const auto& a, const auto& b) { return a.first < b.first; });
   std::vector<const CMFensterSatz*> folge;
+  folge.reserve(ebenen.size());
   for (const auto& ebene : ebenen) folge.push_back(ebene.second);
   return folge;
 }
@@ -107,28 +110,34 @@ class Teilesammler {
     for (const CMBauteil& bauteil : bauteile) Add(bauteil);
   }
 
-  void Add(const CMBauteil& bauteil) {
+  void Add(const CMBauteil& bauteil, bool istFuellung = false) {
     if (!bauteil.IsVorhanden()) return;
     Teil& teil = teile_.emplace_back();
     bauteil.GetUmrissPunkte(teil.umriss);
     teil.farbe = lintavo::TruncateToInt(static_cast<double>(bauteil.lAttribut[aussen_ ? 1 : 0]));
     teil.prio = lintavo::TruncateToInt(static_cast<double>(bauteil.lAttribut[aussen_ ? 3 : 2]));
+    teil.istFuellung = istFuellung;
   }
 
-  // Slats and, behind them, the whole filling. Its contour runs along the sash's own
-  // parts; only where there are none it is seen.
+  // Slats and, behind them, the whole filling.
   void AddFuellung(const CMFensterSatz& fluegel) {
-    const CMFuellung& fuellung = fluegel.Fuellung;
+    GEOM2_Polygon verglast;
+    std::vector<CMBauteil> lamellen;
+    fluegel.GetFuellung(0, verglast, lamellen);
+    for (const CMBauteil& lamelle : lamellen) Add(lamelle, true);
+
+    // Not the glass, which lacks the contour's short edges: a line that runs exactly
+    // along the sash's own parts is seen only where there are none.
     Teil teil;
-    teil.farbe = aussen_ ? fuellung.I2 : fuellung.I1;
-    teil.prio = aussen_ ? fuellung.I4 : fuellung.I3;
-    teil.istFuellung = true;
     try {
       if (!fluegel.ErzeugeRahmenInnenPolygon(teil.umriss)) return;
     } catch (const CMException&) {
       return;  // the sash's parts leave no room for a filling
     }
     for (int i = 0; i < teil.umriss.GetAnzahl(); ++i) teil.umriss.SetAttribut(i, 1);
+    teil.farbe = aussen_ ? fluegel.Fuellung.I2 : fluegel.Fuellung.I1;
+    teil.prio = aussen_ ? fluegel.Fuellung.I4 : fluegel.Fuellung.I3;
+    teil.istFuellung = true;
     teile_.push_back(std::move(teil));
   }
 
