@@ -141,6 +141,9 @@ bool CMFensterSatz::GetFluegelBild2D(std::vector<CMStrecke>& lines,
   GEOM2_Polygon contour;
   std::vector<CMBauteil> slats;
   GetFuellung(0, contour, slats);
+  // The pane is seen up to the frame: the filling's own contour, without its short
+  // edges, would show as a second line beside it.
+  if (!KonturLesen(true, contour)) contour.Clear();
 
   Fluegelbild bild;
   bild.Hinzufuegen(RahmenTeile);
