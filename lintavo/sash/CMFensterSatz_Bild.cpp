@@ -47,12 +47,11 @@ class Fluegelbild {
   void Hinzufuegen(const std::vector<CMBauteil>& bauteile) {
     for (const CMBauteil& bauteil : bauteile) Hinzufuegen(bauteil);
   }
-  // The edges that the outline marks by its attribute are drawn.
-  void Hinzufuegen(GEOM2_Polygon umriss, long farbe, long prio) {
-    for (int i = 0; i < umriss.GetAnzahl() && anzahl_ <= kMaxLinien; ++i) {
-      if (umriss.GetAttribut(i) == 1) KanteHinzufuegen(umriss, i, farbe, prio);
-    }
-    flaechen_.push_back(std::move(umriss));
+  // Adds the border of a pane. Parts that are added after it show only inside it:
+  // the last slat may be laid higher than the pane is.
+  void ScheibeHinzufuegen(const GEOM2_Polygon& contour, long farbe, long prio) {
+    for (int i = 0; i < contour.GetAnzahl(); ++i) KanteHinzufuegen(contour, i, farbe, prio);
+    scheibe_.push_back(contour);
   }
 
   // False when there are too many lines.
@@ -73,15 +72,30 @@ class Fluegelbild {
   }
 
  private:
+  // The edges that the outline marks by its attribute are drawn.
+  void Hinzufuegen(GEOM2_Polygon umriss, long farbe, long prio) {
+    for (int i = 0; i < umriss.GetAnzahl() && anzahl_ <= kMaxLinien; ++i) {
+      if (umriss.GetAttribut(i) == 1) KanteHinzufuegen(umriss, i, farbe, prio);
+    }
+    flaechen_.push_back(std::move(umriss));
+  }
+
   void KanteHinzufuegen(const GEOM2_Polygon& umriss, int i, long farbe, long prio) {
     Bildkante neu;
     umriss.GetKante(i, neu.a, neu.b);
     neu.kante.SetPunkte(neu.a, neu.b);
     neu.kante.SetFarbe(static_cast<int>(farbe));
     neu.kante.SetPrio(static_cast<int>(prio));
-    teile_.clear();
-    if (!ClippKanteAnPolys(neu.kante, flaechen_, teile_, false)) return;
-    for (const CMStrecke& teil : teile_) {
+    std::vector<CMStrecke> ganze;
+    if (scheibe_.empty()) {
+      ganze.push_back(neu.kante);
+    } else {
+      ClippKanteAnPolys(neu.kante, scheibe_, ganze, true);
+    }
+    std::vector<CMStrecke> sichtbar;
+    for (const CMStrecke& teil : ganze) ClippKanteAnPolys(teil, flaechen_, sichtbar, false);
+    if (sichtbar.empty()) return;
+    for (const CMStrecke& teil : sichtbar) {
       XY p;
       XY q;
       teil.GetPunkte(p, q);
@@ -116,7 +130,7 @@ class Fluegelbild {
 
   std::vector<GEOM2_Polygon> flaechen_;
   std::vector<Bildkante> kanten_;
-  std::vector<CMStrecke> teile_;
+  std::vector<GEOM2_Polygon> scheibe_;  // none, or the one pane
   std::size_t anzahl_ = 0;
 };
 
@@ -127,14 +141,16 @@ bool CMFensterSatz::GetFluegelBild2D(std::vector<CMStrecke>& lines,
   GEOM2_Polygon contour;
   std::vector<CMBauteil> slats;
   GetFuellung(0, contour, slats);
-  for (int i = 0; i < contour.GetAnzahl(); ++i) contour.SetAttribut(i, 1);
+  // The pane is seen up to the frame: the filling's own contour, without its short
+  // edges, would show as a second line beside it.
+  if (!KonturLesen(true, contour)) contour.Clear();
 
   Fluegelbild bild;
   bild.Hinzufuegen(RahmenTeile);
   bild.Hinzufuegen(EinzelTeile);
   bild.Hinzufuegen(Sprossen);
+  bild.ScheibeHinzufuegen(contour, Fuellung.I1, Fuellung.I3);
   bild.Hinzufuegen(slats);
-  bild.Hinzufuegen(std::move(contour), Fuellung.I1, Fuellung.I3);
   if (!bild.Ausgeben(lines)) return false;
   if (bMitOeffnungssymbol) GetOeffSymbol(lines);
   return !lines.empty();
