@@ -285,6 +285,7 @@ class LINTAVO_API CMFenster {
   };
 
   bool SaveParameterBlankoFormularToBuffer(CIniFile& document) const;
+  void KnotenIndizesSenken(long dj, long dk);
   void FluegelFormBeiwerteAnpassen(bool bVerti, long i1, long i2, const CMAchsen& before);
   bool AchsenNachMaszSetzen(const CMZusatzMasz& masz);
   void EckpunktKnotenNachfuehren(const CMAchsen& before);

@@ -5,6 +5,7 @@
 
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
+#include "lintavo/model/Achsbereich_intern.h"
 #include "lintavo/model/CMFenster.h"
 #include "lintavo/resources/StringTable.h"
 
@@ -18,9 +19,6 @@ constexpr double kRechenrauschen = 1e-9;
 
 // A corner point belongs to a frame corner at most this far away.
 constexpr double kFangRadius = 0.1;
-
-// Starts the search for the smallest axis index in use.
-constexpr long kKleinsterIndexStart = 30000;
 
 constexpr const char* kNurEineVerschiebung =
     "(RahmenEckpunktVerschieben) Es ist nur eine Verschiebung zulassig !";
@@ -417,17 +415,16 @@ void CMFenster::RahmenEckpunktVerschieben(const CMKnoten&, long index, double dx
 
 bool CMFenster::ZusatzMaszeFuerBreiteUndHoeheAutomatisch(double dAbstand) {
   DeleteZusatzMasze();
-  long minJ = kKleinsterIndexStart;
-  long maxJ = 0;
-  long minK = kKleinsterIndexStart;
-  long maxK = 0;
-  GetMinMaxAchsIndizes(minJ, maxJ, minK, maxK);
-  const CMKnoten origin(static_cast<int>(minJ), static_cast<int>(minK));
+  const lintavo::Achsbereich benutzt = lintavo::BenutzteAchsen(*this);
+  const auto node = [](long j, long k) {
+    return CMKnoten(static_cast<int>(j), static_cast<int>(k));
+  };
+  const CMKnoten origin = node(benutzt.minJ, benutzt.minK);
 
   CMZusatzMasz breite = AutomaticMasz(StringId::Breite, dAbstand);
-  breite.SetHorizontal(origin, CMKnoten(static_cast<int>(maxJ), static_cast<int>(minK)));
+  breite.SetHorizontal(origin, node(benutzt.maxJ, benutzt.minK));
   CMZusatzMasz hoehe = AutomaticMasz(StringId::Hoehe, dAbstand);
-  hoehe.SetVertikal(origin, CMKnoten(static_cast<int>(minJ), static_cast<int>(maxK)));
+  hoehe.SetVertikal(origin, node(benutzt.minJ, benutzt.maxK));
   for (CMZusatzMasz* masz : {&breite, &hoehe}) {
     if (!ZusatzMaszVerbinden(*masz)) {
       throw CMException(static_cast<int>(StringId::MeldungZusatzmaszNichtAngebracht),
