@@ -6,13 +6,16 @@
 #include <vector>
 
 #include "lintavo/api/CFeApi.h"
+#include "lintavo/api/Masze_intern.h"
 #include "lintavo/api/Records_intern.h"
 #include "lintavo/api/Schutz_intern.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/model/CMFenster.h"
 
 using lintavo::Geschuetzt;
+using lintavo::IstMasz;
 using lintavo::KopiereText;
+using lintavo::SetzeLaenge;
 
 namespace {
 
@@ -89,16 +92,6 @@ const CMBauteil* ErstesRahmenteil(const CMFensterSatz* satz) {
 void SetzeRahmenMasz(CMFensterSatz& satz, double CMBauteil::*masz, double value) {
   satz.RahmenVorlage.*masz = value;
   for (CMBauteil& bauteil : satz.RahmenTeile) bauteil.*masz = value;
-}
-
-bool IstMasz(double value) {
-  return value >= lintavo::kNullLaenge && std::isfinite(value);
-}
-
-// A new length takes over the sign of the stored one, which tells the side that
-// the dimension is counted to.
-void SetzeLaenge(CMZusatzMasz& masz, double length) {
-  masz.dLaenge = masz.dLaenge < 0.0 ? -length : length;
 }
 
 long LeererText(char (&text)[256]) {

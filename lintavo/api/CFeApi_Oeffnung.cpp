@@ -3,24 +3,20 @@
 #include <vector>
 
 #include "lintavo/api/CFeApi.h"
+#include "lintavo/api/Masze_intern.h"
 #include "lintavo/api/Records_intern.h"
 #include "lintavo/api/Schutz_intern.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/model/CMFenster.h"
 
 using lintavo::Geschuetzt;
+using lintavo::IstMasz;
+using lintavo::SetzeLaenge;
 using Parameter = CFeApiWandOeffnungsParameter;
 
 namespace {
 
 constexpr int kMitSchraege = 1;
-
-// Presets of the search for the axes in use.
-constexpr long kKleinsterIndexStart = 30000;
-
-bool IstMasz(double value) {
-  return value >= lintavo::kNullLaenge && std::isfinite(value);
-}
 
 bool IstNull(double value) {
   return std::fabs(value) < lintavo::kNullLaenge;
@@ -91,12 +87,14 @@ bool RahmenUndOeffnung(const CMFenster& fenster, const Parameter& param, GEOM2_P
   return rahmen.ParallelPolygon(abstaende.data(), oeffnung, true);
 }
 
-void SetzeLaenge(CMZusatzMasz& masz, double length) {
-  masz.dLaenge = masz.dLaenge < 0.0 ? -length : length;
-}
-
 bool LiegtAuf(int a, int b, long i, long k) {
   return (a == i && b == k) || (a == k && b == i);
+}
+
+// A dimension that can drive the overall size. One between corner points moves
+// corners, whatever axes these belong to.
+bool IstVonAchseZuAchse(const CMZusatzMasz& masz) {
+  return masz.IsEinseitig() && masz.kKnoten1.IsAufAchse() && masz.kKnoten2.IsAufAchse();
 }
 
 }  // namespace
@@ -119,14 +117,14 @@ int CFeApi::IsZMaszBreiteHoehe(long& h, long& v) const {
   h = -1;
   v = -1;
   if (!pFenster_) return 0;
-  long minJ = kKleinsterIndexStart;
+  long minJ = CMFenster::kKleinsterIndexStart;
   long maxJ = 0;
-  long minK = kKleinsterIndexStart;
+  long minK = CMFenster::kKleinsterIndexStart;
   long maxK = 0;
   pFenster_->GetMinMaxAchsIndizes(minJ, maxJ, minK, maxK);
   for (long i = 0; i < GetAnzahlZusatzMasze(); ++i) {
     const CMZusatzMasz& masz = *ZusatzMasz(i);
-    if (!masz.IsEinseitig()) continue;
+    if (!IstVonAchseZuAchse(masz)) continue;
     const CMKnoten& k1 = masz.kKnoten1;
     const CMKnoten& k2 = masz.kKnoten2;
     if (h < 0 && masz.IsHorizonal() && LiegtAuf(k1.J(), k2.J(), minJ, maxJ)) h = i;

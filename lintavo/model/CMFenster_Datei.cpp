@@ -263,9 +263,9 @@ void CMFenster::AchsRasterOptimieren() {
   // Without a sash no axis is in use, and there is nothing to gain by dropping
   // them all.
   if (fluegel_.empty() || lastJ < 0 || lastK < 0) return;
-  long minJ = 30000;
+  long minJ = kKleinsterIndexStart;
   long maxJ = 0;
-  long minK = 30000;
+  long minK = kKleinsterIndexStart;
   long maxK = 0;
   GetMinMaxAchsIndizes(minJ, maxJ, minK, maxK);
   // An index past the last axis means that axis, one before the first means 0.
