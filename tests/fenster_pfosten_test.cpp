@@ -92,6 +92,16 @@ TEST(Pfosten, AutomaticOnesKeepOffThoseThatAreThere) {
   }
 }
 
+TEST(Pfosten, AGroupOutsideTheFrameGetsNone) {
+  CMFenster fenster = Raster(4, 1, 50.0, 100.0);
+  fenster.DeleteFluegel(2);
+  fenster.GetPfostenVorlage() = Vorlage();
+  ASSERT_TRUE(fenster.Berechne(true));
+  // Between the two sashes on the left; the frame leaves out the one on the right.
+  ASSERT_EQ(fenster.GetRahmenPtr()->EinzelTeile.size(), 1u);
+  ErwarteAchse(fenster, 0, {50.0, 7.0}, {50.0, 93.0});
+}
+
 TEST(Pfosten, BarsPiledOnEachOtherComeToRestInOneCalculation) {
   CMFenster fenster = Raster(3, 2, 50.0, 50.0);
   fenster.AddRahmenEinzelBauteil(CMKnoten(1, 0), CMKnoten(1, 2), Vorlage());

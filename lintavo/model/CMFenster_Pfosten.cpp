@@ -98,6 +98,16 @@ std::vector<CMStrecke> Trennlinien(const std::vector<GEOM2_Polygon>& grundformen
   return segmente;
 }
 
+// Whether a segment has a piece inside the frame. Edges of a group of sashes
+// that the frame does not surround have none.
+bool IsImRahmen(const CMStrecke& segment, const GEOM2_Polygon& innen) {
+  XY a;
+  XY b;
+  segment.GetPunkte(a, b);
+  GEOM2_Achse achse;
+  return GEOM2_Polygon::SetAchse(a, b, achse) && innen.AchseClippen(achse, 0.0);
+}
+
 bool IsSameNode(const CMKnoten& a, const CMKnoten& b) {
   return a.J() == b.J() && a.K() == b.K();
 }
@@ -222,6 +232,7 @@ void CMFenster::PfostenUndRiegelAutomatischSetzen(const GEOM2_Polygon& innen,
   // As large as the window, so that each end goes to its nearest node.
   const double fangRadius = std::max(box_.xmax, box_.ymax);
   for (const CMStrecke& segment : Trennlinien(grundformen, innen, rahmen_, achsen_)) {
+    if (!IsImRahmen(segment, innen)) continue;
     XY a;
     XY b;
     segment.GetPunkte(a, b);
