@@ -40,6 +40,13 @@ TEST(Pfosten, TwoSashesGiveOneMullionBetweenTheInnerFrameEdges) {
   const CMBauteil& pfosten = *fenster.GetRahmenEinzelBauteilPtr(0);
   EXPECT_EQ(pfosten.kAnfang.J(), 1);
   EXPECT_EQ(pfosten.kEnde.K(), 1);
+  // Wherever the grid's first axes lie.
+  CMFenster links = Raster(2, 1, 50.0, 100.0);
+  links.GetPfostenVorlage() = Vorlage();
+  links.GetAchsen().SetAchsAbstX(0, -200.0);
+  links.GetAchsen().SetAchsAbstY(0, -200.0);
+  ASSERT_TRUE(links.Berechne(true));
+  ErwarteAchse(links, 0, {-150.0, -193.0}, {-150.0, -107.0});
   // Without the automatic none is made.
   CMFenster ohne = Raster(2, 1, 50.0, 100.0);
   ASSERT_TRUE(ohne.Berechne(false));

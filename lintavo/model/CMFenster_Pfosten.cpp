@@ -230,7 +230,8 @@ bool EndenZurueckschneiden(std::vector<CMBauteil>& teile) {
 void CMFenster::PfostenUndRiegelAutomatischSetzen(const GEOM2_Polygon& innen,
                                                   const std::vector<GEOM2_Polygon>& grundformen) {
   // As large as the window, so that each end goes to its nearest node.
-  const double fangRadius = std::max(box_.xmax, box_.ymax);
+  const double fangRadius =
+      std::max({box_.xmax, box_.ymax, box_.xmax - box_.xmin, box_.ymax - box_.ymin});
   for (const CMStrecke& segment : Trennlinien(grundformen, innen, rahmen_, achsen_)) {
     if (!IsImRahmen(segment, innen)) continue;
     XY a;
