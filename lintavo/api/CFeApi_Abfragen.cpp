@@ -12,7 +12,9 @@
 #include "lintavo/model/CMFenster.h"
 
 using lintavo::Geschuetzt;
+using lintavo::IstMasz;
 using lintavo::KopiereText;
+using lintavo::SetzeLaenge;
 
 namespace {
 

@@ -11,6 +11,8 @@
 #include "lintavo/model/CMFenster.h"
 
 using lintavo::Geschuetzt;
+using lintavo::IstMasz;
+using lintavo::SetzeLaenge;
 using Parameter = CFeApiWandOeffnungsParameter;
 
 namespace {
@@ -90,6 +92,12 @@ bool LiegtAuf(int a, int b, long i, long k) {
   return (a == i && b == k) || (a == k && b == i);
 }
 
+// A dimension that can drive the overall size. One between corner points moves
+// corners, whatever axes these belong to.
+bool IstVonAchseZuAchse(const CMZusatzMasz& masz) {
+  return masz.IsEinseitig() && masz.kKnoten1.IsAufAchse() && masz.kKnoten2.IsAufAchse();
+}
+
 }  // namespace
 
 bool CFeApiWandOeffnungsParameter::operator==(const CFeApiWandOeffnungsParameter& other) const {
@@ -113,7 +121,7 @@ int CFeApi::IsZMaszBreiteHoehe(long& h, long& v) const {
   const lintavo::Achsbereich benutzt = lintavo::BenutzteAchsen(*pFenster_);
   for (long i = 0; i < GetAnzahlZusatzMasze(); ++i) {
     const CMZusatzMasz& masz = *ZusatzMasz(i);
-    if (!masz.IsEinseitig()) continue;
+    if (!IstVonAchseZuAchse(masz)) continue;
     const CMKnoten& k1 = masz.kKnoten1;
     const CMKnoten& k2 = masz.kKnoten2;
     if (h < 0 && masz.IsHorizonal() && LiegtAuf(k1.J(), k2.J(), benutzt.minJ, benutzt.maxJ)) h = i;

@@ -8,9 +8,9 @@ namespace lintavo {
 /// Lowest and highest index of each direction. A window without sashes leaves the
 /// presets, of which no minimum is an axis.
 struct Achsbereich {
-  long minJ = 30000;
+  long minJ = CMFenster::kKleinsterIndexStart;
   long maxJ = 0;
-  long minK = 30000;
+  long minK = CMFenster::kKleinsterIndexStart;
   long maxK = 0;
 };
 
