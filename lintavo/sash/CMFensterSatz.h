@@ -213,7 +213,9 @@ class LINTAVO_API CMFensterSatz {
   /// Appends the bars of a pattern, clipped to the inner contour, and gives
   /// them the pattern's number. False when the pattern has no range; throws 53
   /// with the sash's name when there is no inner contour.
-  bool ErzeugeSprossenBild(long nummer, CIniFile& pattern);
+  /// A `breite` above 0 is the bars' width in drawing units, whatever the pattern
+  /// says.
+  bool ErzeugeSprossenBild(long nummer, CIniFile& pattern, double breite = 0.0);
   /// Appends a bar from p1 to p2, clipped to `contour`. Returns the new bar, or
   /// null when nothing of it remains.
   CMBauteil* AddSprosse(const CMBauteil& vorlage, const XY& p1, const XY& p2,
