@@ -1,6 +1,9 @@
 // Puts a scene onto a Cairo surface: the layout on paper and the colours.
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+
+#include "lintavo/geom/Toleranzen.h"
 
 #include "Painter_intern.h"
 
@@ -101,6 +104,45 @@ void SetColour(cairo_t* cairo, const Colour& colour) {
   cairo_set_source_rgb(cairo, colour.red, colour.green, colour.blue);
 }
 
+bool IsSame(const Point& a, const Point& b) {
+  return std::abs(a.x - b.x) < kNullLaenge && std::abs(a.y - b.y) < kNullLaenge;
+}
+
+const Point& Corner(const Shape& shape, std::size_t i) {
+  return shape.outline[i % shape.outline.size()];
+}
+
+// A part that closes round, as the frame of a circle, has an outline that runs along
+// its outer side, across the seam, back along its inner side and across the seam again.
+// Tells whether the edge from corner `i` is such a seam.
+bool IsSeam(const Shape& shape, std::size_t i) {
+  const std::size_t count = shape.outline.size();
+  // The two passes lie half the outline apart.
+  const std::size_t twin = i + count / 2;
+  return count > 4 && count % 2 == 0 && IsSame(Corner(shape, i), Corner(shape, twin + 1)) &&
+         IsSame(Corner(shape, i + 1), Corner(shape, twin));
+}
+
+bool HasSeam(const Shape& shape) {
+  for (std::size_t i = 0; i < shape.outline.size() / 2; ++i) {
+    if (IsSeam(shape, i)) return true;
+  }
+  return false;
+}
+
+void TraceWithoutSeam(cairo_t* cairo, const Shape& shape, const Layout& layout) {
+  cairo_new_path(cairo);
+  for (std::size_t i = 0; i < shape.outline.size(); ++i) {
+    const Point from = ToPaper(layout, Corner(shape, i));
+    const Point to = ToPaper(layout, Corner(shape, i + 1));
+    if (IsSeam(shape, i)) continue;
+    if (!cairo_has_current_point(cairo) || i == 0 || IsSeam(shape, i - 1)) {
+      cairo_move_to(cairo, from.x, from.y);
+    }
+    cairo_line_to(cairo, to.x, to.y);
+  }
+}
+
 void PaintShape(cairo_t* cairo, const Shape& shape, const Layout& layout, double longSide) {
   TraceOutline(cairo, shape, layout);
   SetColour(cairo, FillColour(shape.kind));
@@ -108,7 +150,12 @@ void PaintShape(cairo_t* cairo, const Shape& shape, const Layout& layout, double
     cairo_fill(cairo);
     return;
   }
-  cairo_fill_preserve(cairo);
+  if (HasSeam(shape)) {
+    cairo_fill(cairo);
+    TraceWithoutSeam(cairo, shape, layout);
+  } else {
+    cairo_fill_preserve(cairo);
+  }
   SetColour(cairo, kInk);
   cairo_set_line_width(cairo, longSide * kStrokeShare);
   cairo_stroke(cairo);
