@@ -37,3 +37,8 @@
 #include "lintavo/sash/CMFensterSatzHalbBogen.h"
 #include "lintavo/sash/CMFensterSatzRechteck.h"
 #include "lintavo/sash/CMFuellung.h"
+#include "lintavo/settings/CAcFeInis.h"
+#include "lintavo/settings/CAcMatEntry.h"
+#include "lintavo/settings/CAcMatList.h"
+#include "lintavo/settings/CAcMatTyp.h"
+#include "lintavo/settings/CMFensterPosition.h"

@@ -15,6 +15,8 @@ inline constexpr double kNullLaenge = 1e-6;
 inline constexpr double kNullFlaeche = 1e-6;
 /// Strict inside test of a segment's midpoint.
 inline constexpr double kInnenTest = 1e-5;
+/// How far beside an edge its two sides are looked at when surfaces may cover it.
+inline constexpr double kNebenKante = kInnenTest;
 /// Shift of a single side when extra parts are placed beside it.
 inline constexpr double kSeitenVerschiebung = 1e-5;
 /// Collinearity and overlap of segments and sides. A thousand times coarser than
@@ -25,6 +27,8 @@ inline constexpr double kUeberlagerung = 0.001;
 inline constexpr double kVereinigung = 0.001;
 /// Overlap up to which two sashes still count as touching.
 inline constexpr double kUeberlappung = 1e-4;
+/// How far the outline of a sash may stand out of the frame's.
+inline constexpr double kFluegelImRahmen = 0.1;
 /// Simplifying outlines: the coarse clean-up of frame polygons.
 inline constexpr double kBereinigenGrob = 1e-4;
 /// Edges below this are dropped by the clean-up of short edges.
@@ -39,6 +43,9 @@ inline constexpr double kOrientierung = 1e-6;
 
 /// Share by which two areas may differ and still be equal.
 inline constexpr double kGleicheFlaeche = 1e-9;
+
+/// Texture scales that differ by no more than this are the same one.
+inline constexpr double kGleicheTexturskala = 1e-4;
 
 /// Start value of a bounding box that has not met a point yet.
 inline constexpr double kLeereBox = 1e30;

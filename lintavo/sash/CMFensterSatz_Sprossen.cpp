@@ -43,8 +43,10 @@ struct Sprossenbild {
   XY Punkt(double x, double y) const { return {x * sx + ursprung.x, y * sy + ursprung.y}; }
 };
 
-// False when the pattern has no range.
-bool ReadSprossenbild(CIniFile& pattern, const GEOM2_Polygon& contour, Sprossenbild& bild) {
+// False when the pattern has no range. A width above zero takes the place of the
+// pattern's own.
+bool ReadSprossenbild(CIniFile& pattern, const GEOM2_Polygon& contour, double breite,
+                      Sprossenbild& bild) {
   const char* section = Text(StringId::Allgemeines);
   bool skalieren = false;
   double bereich = 0.0;
@@ -58,6 +60,7 @@ bool ReadSprossenbild(CIniFile& pattern, const GEOM2_Polygon& contour, Sprossenb
   double wert = 0.0;
   if (pattern.GetDouble(section, Text(StringId::Breite), wert)) bild.breite = wert * bild.faktor;
   if (pattern.GetDouble(section, Text(StringId::Dicke), wert)) bild.dicke = wert * bild.faktor;
+  if (breite > lintavo::kNullLaenge) bild.breite = breite;
 
   XY min;
   XY max;
@@ -95,13 +98,13 @@ GEOM2_Achse AchseMitRichtung(const Sprossenbild& bild, const double (&werte)[kSp
 
 }  // namespace
 
-bool CMFensterSatz::ErzeugeSprossenBild(long nummer, CIniFile& pattern) {
+bool CMFensterSatz::ErzeugeSprossenBild(long nummer, CIniFile& pattern, double breite) {
   GEOM2_Polygon contour;
   if (!SprossenKontur(contour)) {
     throw CMException(static_cast<int>(StringId::MeldungSprossenbild), strName);
   }
   Sprossenbild bild;
-  if (!ReadSprossenbild(pattern, contour, bild)) return false;
+  if (!ReadSprossenbild(pattern, contour, breite, bild)) return false;
 
   CMBauteil vorlage = SprossenVorlage;
   vorlage.lSprossenBild = nummer;

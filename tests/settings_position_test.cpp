@@ -1,0 +1,595 @@
+// Positions: windows made from a type template and a parameter file.
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "lintavo/ini/CIniFile.h"
+#include "lintavo/settings/CMFensterPosition.h"
+
+#include "support/Beispiele.h"
+#include "support/Ordner.h"
+
+namespace lintavo::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kBeispiele = LINTAVO_EXAMPLES_DIR;
+
+std::string Inhalt(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  EXPECT_TRUE(file) << path;
+  std::ostringstream text;
+  text << file.rdbuf();
+  return text.str();
+}
+
+void Schreibe(const std::string& path, const std::string& text) {
+  fs::create_directories(fs::path(path).parent_path());
+  std::ofstream(path, std::ios::binary) << text;
+}
+
+std::string Ersetzt(std::string text, const std::string& alt, const std::string& neu) {
+  const std::size_t place = text.find(alt);
+  EXPECT_NE(place, std::string::npos) << alt;
+  if (place != std::string::npos) text.replace(place, alt.size(), neu);
+  return text;
+}
+
+std::string Fehlertext(const CMFensterPosition& position) {
+  CString text;
+  position.GetError(text);
+  return std::string(text.View());
+}
+
+// A base directory of its own, filled test by test.
+class Position : public testing::Test {
+ protected:
+  // The path as the position names it.
+  std::string Vorlagenpfad(const std::string& typ) const {
+    return ordner_ / ("Fenster/" + typ + ".ini");
+  }
+  void Vorlage(const std::string& typ, const std::string& text) {
+    Schreibe(Vorlagenpfad(typ), text);
+  }
+  void Bild(const std::string& name, const std::string& text) {
+    Schreibe(ordner_ / ("Sprossen/" + name + ".ini"), text);
+  }
+  bool Lies(CMFensterPosition& position, const std::string& parameter,
+            const std::string& basis) const {
+    Schreibe(ordner_ / "parameter.txt", parameter);
+    return position.ReadFromFile((ordner_ / "parameter.txt").c_str(), basis.c_str());
+  }
+  // With the templates and patterns of this test.
+  bool Lies(CMFensterPosition& position, const std::string& parameter) const {
+    return Lies(position, parameter, ordner_ / "");
+  }
+  // With those of the examples.
+  bool LiesBeispiel(CMFensterPosition& position, const std::string& parameter) const {
+    return Lies(position, parameter, kBeispiele);
+  }
+
+  Ordner ordner_;
+};
+
+bool LiesBeispielposition(CMFensterPosition& position, const std::string& name) {
+  const std::string path = std::string(kBeispiele) + "/Positionen/" + name;
+  return position.ReadFromFile(path.c_str(), kBeispiele);
+}
+
+void ErwarteSprosse(const CMBauteil& sprosse, const XY& von, const XY& bis, double breite,
+                    double tol = 1e-6) {
+  XY a;
+  XY b;
+  ASSERT_TRUE(sprosse.GetAchspunkte(a, b));
+  EXPECT_NEAR(a.x, von.x, tol);
+  EXPECT_NEAR(a.y, von.y, tol);
+  EXPECT_NEAR(b.x, bis.x, tol);
+  EXPECT_NEAR(b.y, bis.y, tol);
+  EXPECT_DOUBLE_EQ(sprosse.dBreite, breite);
+}
+
+void ErwarteAttribute(const CMBauteil& teil, long a1, long a2, long a3, long a4) {
+  EXPECT_EQ(teil.lAttribut[0], a1);
+  EXPECT_EQ(teil.lAttribut[1], a2);
+  EXPECT_EQ(teil.lAttribut[2], a3);
+  EXPECT_EQ(teil.lAttribut[3], a4);
+}
+
+// --- the example positions -------------------------------------------------------
+
+TEST(Beispielpositionen, KitchenHasItsSizeTextsAndCross) {
+  CMFensterPosition position;
+  ASSERT_TRUE(LiesBeispielposition(position, "kueche.txt")) << Fehlertext(position);
+  EXPECT_EQ(position.GetError(), 0);
+  EXPECT_EQ(Fehlertext(position), "");
+  EXPECT_EQ(position.GetText(1), "Küche, Nordseite");
+  EXPECT_EQ(position.GetText(2), "Pos. 1.01");
+  EXPECT_EQ(position.GetText(3), "");
+  const CMFenster& fenster = *position.GetFensterPtr();
+  EXPECT_EQ(fenster.GetTypName(), "Einfluegelig");
+  XY size;
+  fenster.GetSize(size);
+  EXPECT_NEAR(size.x, 111.0, 1e-9);
+  EXPECT_NEAR(size.y, 126.0, 1e-9);
+  const CMFensterSatz& fluegel = *fenster.GetFluegelPtr(0L);
+  EXPECT_EQ(fluegel.lGangart, CMFensterSatz::GetGangArtIndex("Dr"));
+  EXPECT_EQ(fluegel.lAnschlag, CMFensterSatz::GetAnschlagIndex("Re"));
+  // The glass begins 7 - 1.5 + 7.8 inside the outline.
+  ASSERT_EQ(fluegel.Sprossen.size(), 2U);
+  ErwarteSprosse(fluegel.Sprossen[0], {13.3, 63}, {97.7, 63}, 2.5);
+  ErwarteSprosse(fluegel.Sprossen[1], {55.5, 13.3}, {55.5, 112.7}, 2.5);
+  for (const CMBauteil& sprosse : fluegel.Sprossen) {
+    ErwarteAttribute(sprosse, 4, 4, 1, 1);
+    EXPECT_EQ(sprosse.lSprossenBild, 1);
+  }
+}
+
+TEST(Beispielpositionen, BedroomHasOuterPartsAndEqualFields) {
+  CMFensterPosition position;
+  ASSERT_TRUE(LiesBeispielposition(position, "schlafzimmer.txt")) << Fehlertext(position);
+  const CMFenster& fenster = *position.GetFensterPtr();
+  XY size;
+  fenster.GetSize(size);
+  EXPECT_NEAR(size.x, 176.0 + 2 * 4.5, 1e-9);
+  EXPECT_NEAR(size.y, 148.0 + 3.0 + 20.0, 1e-9);
+  // Glass of the left sash: 7.5 - 1.5 + 7.8 to 88 - 4 + 1.5 - 7.8 and 9 - 1.5 +
+  // 7.8 to 148 - 13.8. Three rows and two columns with bars of 2 between them.
+  const CMFensterSatz& links = *fenster.GetFluegelPtr(0L);
+  ASSERT_EQ(links.Sprossen.size(), 3U);
+  const double feld = (134.2 - 15.3 - 2 * 2.0) / 3;
+  ErwarteSprosse(links.Sprossen[0], {13.8, 15.3 + feld + 1}, {77.7, 15.3 + feld + 1}, 2.0);
+  ErwarteSprosse(links.Sprossen[1], {13.8, 134.2 - feld - 1}, {77.7, 134.2 - feld - 1}, 2.0);
+  ErwarteSprosse(links.Sprossen[2], {45.75, 15.3}, {45.75, 134.2}, 2.0);
+  EXPECT_EQ(fenster.GetFluegelPtr(1L)->Sprossen.size(), 3U);
+}
+
+TEST(Beispielpositionen, HallwayHasASunInItsArch) {
+  CMFensterPosition position;
+  ASSERT_TRUE(LiesBeispielposition(position, "diele.txt")) << Fehlertext(position);
+  const CMFensterSatz& fluegel = *position.GetFensterPtr()->GetFluegelPtr(0L);
+  ASSERT_EQ(fluegel.Sprossen.size(), 8U);
+  // On the springing line at 100, and the middle ray up to the crown of the
+  // glass, whose radius is 50 - 13.3, but for the segments of the arch.
+  ErwarteSprosse(fluegel.Sprossen[0], {13.3, 100}, {86.7, 100}, 2.5, 0.05);
+  ErwarteSprosse(fluegel.Sprossen[6], {50, 110}, {50, 136.7}, 2.5, 0.05);
+  EXPECT_DOUBLE_EQ(fluegel.Fuellung.D3, 3.2);
+}
+
+// --- values ----------------------------------------------------------------------
+
+TEST_F(Position, EveryLengthIsATenthAndNothingElse) {
+  CMFensterPosition position;
+  ASSERT_TRUE(LiesBeispiel(
+      position,
+      "[Allgemeines]\nTyp=Einfluegelig\nText1=eins\nText49=letzter\nText50=zuviel\n"
+      "[Masze]\nBreite=1210\nHoehe=1430\n"
+      "[Rahmen]\nRahmendicke=69\nR1=81,11,12,13,14\nR2=82,15,16,17,18\nR4=84,19,20,21,22\n"
+      "Z1=1,31,32,33,34,35,36,1,2\nZ2=3,41,42,43,44,45,46,3,4\nZ4=2,51,52,53,54,55,56,0,0\n"
+      "OeffSeite=Au\n"
+      "[Fluegel1]\nRahmendicke=71\nF1=91,11,61,62,63,64\nF3=93,13,65,66,67,68\n"
+      "F4=94,14,69,70,71.9,-72.9\nF5=99,99,9,9,9,9\nMit Rahmen=1\nOeffSeite=Au\nGangart=Ki\n"
+      "Anschlag=Un\nZuerstAufgehend=1\nFuellung=2,6,1.5,0.5,1.25,1.75,2.25,2.75,3,4,5,6\n"))
+      << Fehlertext(position);
+
+  const CMFenster& fenster = *position.GetFensterPtr();
+  double breite = 0.0;
+  double hoehe = 0.0;
+  ASSERT_TRUE(Gesamtmasze(fenster, breite, hoehe));
+  EXPECT_DOUBLE_EQ(breite, 121.0);
+  EXPECT_DOUBLE_EQ(hoehe, 143.0);
+  EXPECT_EQ(position.GetText(1), "eins");
+  EXPECT_EQ(position.GetText(49), "letzter");
+  EXPECT_EQ(position.GetText(50), "");
+
+  const CMFensterSatz& rahmen = *fenster.GetRahmenPtr();
+  EXPECT_DOUBLE_EQ(rahmen.RahmenVorlage.dDicke, 6.9);
+  ASSERT_EQ(rahmen.RahmenTeile.size(), 4U);
+  const double breiten[] = {8.1, 8.2, 7.0, 8.4};  // R3 is missing
+  for (std::size_t i = 0; i < 4; ++i) {
+    EXPECT_DOUBLE_EQ(rahmen.RahmenTeile[i].dBreite, breiten[i]);
+    EXPECT_DOUBLE_EQ(rahmen.RahmenTeile[i].dBreite2, 0.0);
+    EXPECT_DOUBLE_EQ(rahmen.RahmenTeile[i].dDicke, 6.9);
+  }
+  ErwarteAttribute(rahmen.RahmenTeile[0], 12, 14, 11, 13);
+  ErwarteAttribute(rahmen.RahmenTeile[1], 16, 18, 15, 17);
+  ErwarteAttribute(rahmen.RahmenTeile[2], 2, 2, 1, 1);
+  EXPECT_EQ(rahmen.lOeffSeite, 1);
+
+  ASSERT_EQ(rahmen.EinzelTeile.size(), 2U);  // Z3 is missing
+  const CMBauteil& unten = rahmen.EinzelTeile[0];
+  EXPECT_TRUE(unten.IsZusatzteilAussen());
+  EXPECT_EQ(unten.lSeite, 0);
+  EXPECT_DOUBLE_EQ(unten.dBreite, 3.1);
+  EXPECT_DOUBLE_EQ(unten.dBreite2, 3.2);
+  EXPECT_DOUBLE_EQ(unten.dDicke, 6.9);
+  ErwarteAttribute(unten, 34, 36, 33, 35);
+  EXPECT_EQ(unten.cAbschnittsTypAnfang, 1);
+  EXPECT_EQ(unten.cAbschnittsTypEnde, 2);
+  EXPECT_EQ(rahmen.EinzelTeile[1].lSeite, 2);
+  EXPECT_DOUBLE_EQ(rahmen.EinzelTeile[1].dBreite, 4.1);
+  EXPECT_EQ(rahmen.EinzelTeile[1].cAbschnittsTypEnde, 4);
+
+  const CMFensterSatz& fluegel = *fenster.GetFluegelPtr(0L);
+  EXPECT_DOUBLE_EQ(fluegel.RahmenVorlage.dDicke, 7.1);
+  ASSERT_EQ(fluegel.RahmenTeile.size(), 4U);
+  EXPECT_DOUBLE_EQ(fluegel.RahmenTeile[0].dBreite, 9.1);
+  EXPECT_DOUBLE_EQ(fluegel.RahmenTeile[0].dBreite2, 1.1);
+  ErwarteAttribute(fluegel.RahmenTeile[0], 62, 64, 61, 63);
+  EXPECT_DOUBLE_EQ(fluegel.RahmenTeile[1].dBreite, 7.8);
+  EXPECT_DOUBLE_EQ(fluegel.RahmenTeile[1].dBreite2, 1.5);
+  EXPECT_DOUBLE_EQ(fluegel.RahmenTeile[3].dBreite2, 1.4);
+  ErwarteAttribute(fluegel.RahmenTeile[3], 70, -72, 69, 71);
+  EXPECT_EQ(fluegel.lOeffSeite, 1);
+  EXPECT_EQ(fluegel.lGangart, CMFensterSatz::GetGangArtIndex("Ki"));
+  EXPECT_EQ(fluegel.lAnschlag, CMFensterSatz::GetAnschlagIndex("Un"));
+  EXPECT_TRUE(fluegel.bZuerstAufgehend);
+  // The filling stands in the window's own unit.
+  EXPECT_EQ(fluegel.Fuellung.lArt, 2);
+  EXPECT_DOUBLE_EQ(fluegel.Fuellung.D2, 6.0);
+  EXPECT_DOUBLE_EQ(fluegel.Fuellung.D1, 1.5);
+  EXPECT_DOUBLE_EQ(fluegel.Fuellung.D7, 2.75);
+}
+
+TEST_F(Position, LengthsKeepTheSignOfTheTemplate) {
+  CMFensterPosition position;
+  ASSERT_TRUE(LiesBeispiel(position, "[Allgemeines]\nTyp=Oberlicht\n[Masze]\nOberlicht=520\n"));
+  EXPECT_DOUBLE_EQ(position.GetFensterPtr()->GetZusatzMaszPtr(3)->dLaenge, -52.0);
+  EXPECT_NEAR(position.GetFensterPtr()->GetAchsen().dGetAchsAbstY(2), 52.0, 1e-9);
+}
+
+TEST_F(Position, APartWithAThicknessOfItsOwnKeepsIt) {
+  Vorlage("T", Ersetzt(Inhalt(std::string(kBeispiele) + "/Fenster/Einfluegelig.ini"),
+                       "R2=7,0,1,2,1,2,6.8", "R2=7,0,1,2,1,2,5.5"));
+  CMFensterPosition position;
+  ASSERT_TRUE(Lies(position, "[Allgemeines]\nTyp=T\n[Rahmen]\nRahmendicke=80\n"));
+  const std::vector<CMBauteil>& teile = position.GetFensterPtr()->GetRahmenPtr()->RahmenTeile;
+  EXPECT_DOUBLE_EQ(teile[0].dDicke, 8.0);
+  EXPECT_DOUBLE_EQ(teile[1].dDicke, 5.5);
+}
+
+TEST_F(Position, MullionsFollowAThinnerFrame) {
+  CMFensterPosition position;
+  ASSERT_TRUE(LiesBeispiel(position, "[Allgemeines]\nTyp=Zweifluegelig\n[Rahmen]\nR1=50,1,2,1,2\n"))
+      << Fehlertext(position);
+  XY a;
+  XY b;
+  ASSERT_TRUE(position.GetFensterPtr()->GetRahmenPtr()->EinzelTeile[0].GetAchspunkte(a, b));
+  EXPECT_NEAR(std::min(a.y, b.y), 5.0, 1e-9);
+  EXPECT_NEAR(std::max(a.y, b.y), 133.0, 1e-9);
+}
+
+// --- patterns --------------------------------------------------------------------
+
+TEST_F(Position, PatternListsOfFiveAndSix) {
+  CMFensterPosition position;
+  ASSERT_TRUE(
+      LiesBeispiel(position,
+                   "[Allgemeines]\nTyp=Einfluegelig\n[Fluegel1]\n"
+                   "Sprossenbild1=00,1,2,1,2\nSprossenbild2= 01 ,5,6,7,8\n"
+                   "Sprossenbild3=Rauten,31,9.9,10,11,12\nSprossenbild5=gibtsnicht,0,0,0,0\n"))
+      << Fehlertext(position);
+  const std::vector<CMBauteil>& sprossen = position.GetFensterPtr()->GetFluegelPtr(0L)->Sprossen;
+  ASSERT_EQ(sprossen.size(), 2U + 4U);
+  EXPECT_EQ(sprossen[0].lSprossenBild, 2);
+  EXPECT_DOUBLE_EQ(sprossen[0].dBreite, 2.5);
+  ErwarteAttribute(sprossen[0], 6, 8, 5, 7);
+  EXPECT_EQ(sprossen[2].lSprossenBild, 3);
+  EXPECT_DOUBLE_EQ(sprossen[2].dBreite, 3.1);
+  EXPECT_DOUBLE_EQ(sprossen[2].dDicke, 2.0);
+  ErwarteAttribute(sprossen[2], 10, 12, 9, 11);
+}
+
+TEST_F(Position, BarsOfTheTemplateStay) {
+  Vorlage("T", Inhalt(BeispielPfad("sprossen_und_zusatzteile.aqz")));
+  Bild("01", "[Allgemeines]\nBereich=100\nA1=0,0,0,100\n");
+  CMFensterPosition position;
+  ASSERT_TRUE(Lies(position, "[Allgemeines]\nTyp=T\n[Fluegel2]\nSprossenbild1=01,1,4,1,4\n"));
+  EXPECT_EQ(position.GetFensterPtr()->GetFluegelPtr(0L)->Sprossen.size(), 3U);
+  EXPECT_EQ(position.GetFensterPtr()->GetFluegelPtr(1L)->Sprossen.size(), 4U);
+}
+
+TEST_F(Position, PatternsTogetherAreBounded) {
+  std::string bild = "[Allgemeines]\nBereich=100\n";
+  std::string parameter = "[Allgemeines]\nTyp=T\n[Fluegel1]\n";
+  for (int i = 1; i <= 999; ++i) {
+    const std::string nummer = std::to_string(i);
+    bild.append("A").append(nummer).append("=-40,50,40,50\n");
+    parameter.append("Sprossenbild").append(nummer).append("=voll,1,4,1,4\n");
+  }
+  Bild("voll", bild);
+  Vorlage("T", Inhalt(std::string(kBeispiele) + "/Fenster/Einfluegelig.ini"));
+  CMFensterPosition position;
+  EXPECT_FALSE(Lies(position, parameter));
+  EXPECT_EQ(position.GetError(), 53);
+  // 1001 lines and one more for each use: nineteen fit.
+  EXPECT_EQ(position.GetFensterPtr()->GetFluegelPtr(0L)->Sprossen.size(), 19U * 999U);
+}
+
+// --- what is refused ---------------------------------------------------------------
+
+struct Fehlerfall {
+  const char* name;
+  const char* parameter;
+  long nummer;
+  const char* text;  // a part of it
+};
+
+void PrintTo(const Fehlerfall& fall, std::ostream* out) {
+  *out << fall.name;
+}
+
+class Fehler : public Position, public testing::WithParamInterface<Fehlerfall> {};
+
+TEST_P(Fehler, HasItsNumberAndText) {
+  Bild("ohne", "[Allgemeines]\nA1=0,0,10,10\n");
+  fs::copy(fs::path(kBeispiele) / "Fenster", ordner_ / "Fenster");
+  fs::copy(fs::path(kBeispiele) / "Sprossen/01.ini", ordner_ / "Sprossen/01.ini");
+  Vorlage("Flach", Ersetzt(Inhalt(Vorlagenpfad("Einfluegelig")), "R1=7,0", "R1=0,0"));
+  Vorlage("Schmal",
+          Ersetzt(Inhalt(Vorlagenpfad("Einfluegelig")), "Breite\nLaenge=100", "Breite\nLaenge=12"));
+  Schreibe(ordner_ / "draussen.ini", Inhalt(Vorlagenpfad("Einfluegelig")));
+  Schreibe(ordner_ / "Fenster/tief/T.ini", Inhalt(Vorlagenpfad("Einfluegelig")));
+  Schreibe(ordner_ / "Sprossen/tief/01.ini", Inhalt(ordner_ / "Sprossen/01.ini"));
+
+  CMFensterPosition position;
+  EXPECT_FALSE(Lies(position, GetParam().parameter));
+  EXPECT_EQ(position.GetError(), GetParam().nummer);
+  EXPECT_NE(Fehlertext(position).find(GetParam().text), std::string::npos) << Fehlertext(position);
+
+  // What failed does not show in the next read.
+  ASSERT_TRUE(LiesBeispielposition(position, "schlafzimmer.txt"));
+  CMFensterPosition frisch;
+  ASSERT_TRUE(LiesBeispielposition(frisch, "schlafzimmer.txt"));
+  EXPECT_EQ(Zeilen(*position.GetFensterPtr()), Zeilen(*frisch.GetFensterPtr()));
+  EXPECT_EQ(position.GetText(1), "Schlafzimmer");
+}
+
+const Fehlerfall kFehler[] = {
+    {"NoType", "[Masze]\nBreite=1000\n", 27, "keine Angabe für den Fenstertyp"},
+    {"NoTemplate", "[Allgemeines]\nTyp=Gibtsnicht\n", 28, "/Fenster/Gibtsnicht.ini' ist nicht"},
+    {"TypeLeadsUp", "[Allgemeines]\nTyp=../draussen\n", 28, "/Fenster/../draussen.ini'"},
+    {"TypeLeadsUpBackwards", "[Allgemeines]\nTyp=..\\draussen\n", 28, "..\\draussen.ini'"},
+    {"TypeInAFolder", "[Allgemeines]\nTyp=tief/T\n", 28, "/Fenster/tief/T.ini'"},
+    {"TypeOnADrive", "[Allgemeines]\nTyp=C:Flach\n", 28, "C:Flach.ini'"},
+    {"TemplateFails", "[Allgemeines]\nTyp=Schmal\n", 22, "Flügelfläche ist gleich Null"},
+    {"ValuesFail", "[Allgemeines]\nTyp=Einfluegelig\n[Masze]\nBreite=120\n", 22,
+     "Flügelfläche ist gleich Null"},
+    {"WidthsFail", "[Allgemeines]\nTyp=Einfluegelig\n[Rahmen]\nR2=600,1,2,1,2\nR4=600,1,2,1,2\n",
+     22, "Flügelfläche"},
+    {"NoPattern", "[Allgemeines]\nTyp=Zweifluegelig\n[Fluegel2]\nSprossenbild1=99,1,4,1,4\n", 53,
+     "'Flügel rechts' enthält eine unzulässige Sprossenbild"},
+    {"PatternWithoutRange",
+     "[Allgemeines]\nTyp=Zweifluegelig\n[Fluegel1]\nSprossenbild1=ohne,1,4,1,4\n", 53,
+     "'Flügel links'"},
+    {"PatternOfFour", "[Allgemeines]\nTyp=Einfluegelig\n[Fluegel1]\nSprossenbild1=01,1,4,1\n", 53,
+     "'Flügel'"},
+    {"PatternOfSeven",
+     "[Allgemeines]\nTyp=Einfluegelig\n[Fluegel1]\nSprossenbild1=01,1,4,1,4,5,6\n", 53, "'Flügel'"},
+    {"PatternElsewhere",
+     "[Allgemeines]\nTyp=Einfluegelig\n[Fluegel1]\nSprossenbild1=tief/01,1,4,1,4\n", 53,
+     "'Flügel'"},
+    {"FewerFrameParts", "[Allgemeines]\nTyp=Einfluegelig\n[Rahmen]\nR3=0,1,2,1,2\n", 80,
+     "(zu viele Rahmenbauteile) !"},
+    {"NoFrame", "[Allgemeines]\nTyp=Einfluegelig\n[Rahmen]\nMit Rahmen=0\n", 80, "(zu viele"},
+    {"MoreFrameParts", "[Allgemeines]\nTyp=Flach\n[Rahmen]\nR1=70,1,2,1,2\n", 81,
+     "Formänderung  (zu wenig Rahmenbauteile) !"},
+    {"ArchFallsApart", "[Allgemeines]\nTyp=Rundbogen\n[Masze]\nBreite=30000\n", 81, "(zu wenig"},
+    {"FewerSashParts", "[Allgemeines]\nTyp=Oberlicht\n[Fluegel3]\nF1=0,15,1,3,1,3\n", 82,
+     "Es sind zu viele Rahmenbauteile im Flügel 'Flügel rechts'."},
+    {"MoreSashParts", "[Allgemeines]\nTyp=Oberlicht\n[Fluegel2]\nMit Rahmen=1\n", 84,
+     "Es sind zu wenig Rahmenbauteile im Flügel 'Festfeld Mitte'."},
+    // An overlap of 10 on a frame part of 7.
+    {"SashOutsideTheFrame", "[Allgemeines]\nTyp=Zweifluegelig\n[Fluegel2]\nF2=78,100,1,3,1,3\n", 85,
+     "Formänderung im Flügel 'Flügel rechts' !"},
+    // An overlap of 5 on the half of a transom of 9.
+    {"SashAcrossATransom", "[Allgemeines]\nTyp=Oberlicht\n[Fluegel3]\nF3=78,50,1,3,1,3\n", 85,
+     "Formänderung im Flügel 'Flügel rechts' !"},
+};
+
+std::string FehlerName(const testing::TestParamInfo<Fehlerfall>& fall) {
+  return fall.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Position, Fehler, testing::ValuesIn(kFehler), FehlerName);
+
+TEST_F(Position, BeforeTheFirstReadThereIsNone) {
+  CMFensterPosition position;
+  EXPECT_EQ(position.GetError(), 48);
+  EXPECT_EQ(Fehlertext(position), "Es wurde noch keine Position geladen !");
+  EXPECT_EQ(position.GetFensterPtr()->GetAnzahlFluegel(), 0);
+}
+
+TEST_F(Position, AMissingParameterFileIsNamed) {
+  CMFensterPosition position;
+  EXPECT_FALSE(position.ReadFromFile("gibt/es/nicht.txt", kBeispiele));
+  EXPECT_EQ(position.GetError(), 28);
+  EXPECT_EQ(Fehlertext(position), "Die Datei 'gibt/es/nicht.txt' ist nicht vorhanden !");
+  EXPECT_FALSE(position.ReadFromFile("", ""));
+  EXPECT_FALSE(position.ReadFromFile(kBeispiele, kBeispiele));  // a folder
+  EXPECT_EQ(position.GetError(), 28);
+}
+
+TEST_F(Position, AFailedReadLeavesNothingOfTheOneBefore) {
+  CMFensterPosition position;
+  ASSERT_TRUE(LiesBeispielposition(position, "kueche.txt"));
+  EXPECT_FALSE(position.ReadFromFile("gibt/es/nicht.txt", kBeispiele));
+  EXPECT_EQ(position.GetText(1), "");
+  EXPECT_EQ(position.GetFensterPtr()->GetAnzahlFluegel(), 0);
+  EXPECT_EQ(position.GetFensterPtr()->GetTypName(), "");
+  ASSERT_TRUE(LiesBeispielposition(position, "kueche.txt"));
+  EXPECT_EQ(position.GetError(), 0);
+}
+
+TEST_F(Position, NoValueDoesHarm) {
+  const char* const kZeilen[] = {"[Masze]\nBreite=#\n",
+                                 "[Rahmen]\nRahmendicke=#\n",
+                                 "[Rahmen]\nR2=#,#,#,#,#\n",
+                                 "[Rahmen]\nZ1=#,#,#,#,#,#,#,#,#\n",
+                                 "[Rahmen]\nZ1=1,#,#,1,2,1,2,3,4\nZ2=2,#,0,1,2,1,2,4,4\n",
+                                 "[Fluegel1]\nF2=#,#,#,#,#,#\n",
+                                 "[Fluegel1]\nFuellung=2,#,#,#,#,#,#,#,#,#,#,#\n",
+                                 "[Fluegel1]\nSprossenbild1=01,#,#,#,#,#\n",
+                                 "[Fluegel1]\nSprossenbild1=#,#,#,#,#,#\n"};
+  for (const char* wert : {"nan", "inf", "-inf", "1e308", "-1e308", "1e12", "-1", "0", "1e-320",
+                           "9223372036854775807", "-9223372036854775808", ",", "x"}) {
+    for (const char* muster : kZeilen) {
+      std::string zeilen;
+      for (const char* c = muster; *c != '\0'; ++c) {
+        if (*c == '#') {
+          zeilen += wert;
+        } else {
+          zeilen += *c;
+        }
+      }
+      CMFensterPosition position;
+      const bool gelesen = LiesBeispiel(position, "[Allgemeines]\nTyp=Zweifluegelig\n" + zeilen);
+      EXPECT_EQ(gelesen, position.GetError() == 0) << zeilen;
+      EXPECT_EQ(gelesen, Fehlertext(position).empty()) << zeilen;
+    }
+  }
+}
+
+// --- there and back ------------------------------------------------------------------
+
+class Rundweg : public Position, public testing::WithParamInterface<std::string> {
+ protected:
+  // The blank form of an example, whose file serves as the template "T".
+  std::string Formular() {
+    Vorlage("T", Inhalt(BeispielPfad(GetParam())));
+    CMFenster fenster = Beispiel(GetParam());
+    fenster.SetTypName("T");
+    EXPECT_TRUE(fenster.SaveToFile(true, (ordner_ / "form.aqz").c_str()));
+    return Inhalt(ordner_ / "form.txt");
+  }
+};
+
+void ErwarteGleicheUmrisse(const CMFenster& a, const CMFenster& b) {
+  const std::vector<GEOM2_Polygon> links = Umrisse(a);
+  const std::vector<GEOM2_Polygon> rechts = Umrisse(b);
+  ASSERT_EQ(links.size(), rechts.size());
+  for (std::size_t i = 0; i < links.size(); ++i) {
+    EXPECT_TRUE(GleichePunkte(links[i], rechts[i], 1e-6)) << i;
+  }
+}
+
+TEST_P(Rundweg, AnUnchangedFormGivesTheSameWindow) {
+  const std::string formular = Formular();
+  CMFensterPosition position;
+  ASSERT_TRUE(Lies(position, formular)) << Fehlertext(position);
+  const CMFenster original = Beispiel(GetParam());
+  ErwarteGleicheUmrisse(original, *position.GetFensterPtr());
+  EXPECT_EQ(Zeilen(original), Zeilen(*position.GetFensterPtr()));
+  // And the form of the position is the form that it was read from.
+  ASSERT_TRUE(position.GetFensterPtr()->SaveToFile(true, (ordner_ / "form2.aqz").c_str()));
+  EXPECT_EQ(Inhalt(ordner_ / "form2.txt"), formular);
+}
+
+TEST_P(Rundweg, NewDimensionsGiveTheWindowWithThem) {
+  CMFenster erwartet = Beispiel(GetParam());
+  double breite = 0.0;
+  double hoehe = 0.0;
+  ASSERT_TRUE(Gesamtmasze(erwartet, breite, hoehe));
+  const auto eintrag = [](const char* name, double wert) {
+    std::ostringstream zeile;
+    zeile << "\n" << name << "=" << wert << "\n";
+    return zeile.str();
+  };
+  std::string formular = Formular();
+  formular = Ersetzt(formular, eintrag("Breite", breite * 10), eintrag("Breite", breite * 10 + 30));
+  formular = Ersetzt(formular, eintrag("Hoehe", hoehe * 10), eintrag("Hoehe", hoehe * 10 + 20));
+  ASSERT_TRUE(Einpassen(erwartet, breite + 3, hoehe + 2));
+  CMFensterPosition position;
+  const bool gelesen = Lies(position, formular);
+  // A circle of two arches gets straight sides between them, a new form.
+  const long teileVorher = Beispiel(GetParam()).GetRahmenPtr()->lGetAnzahlRahmenBauteile();
+  if (erwartet.GetRahmenPtr()->lGetAnzahlRahmenBauteile() > teileVorher) {
+    EXPECT_EQ(GetParam(), "rundfenster.aqz");
+    EXPECT_EQ(position.GetError(), 81);
+    return;
+  }
+  ASSERT_TRUE(gelesen) << Fehlertext(position);
+  ErwarteGleicheUmrisse(erwartet, *position.GetFensterPtr());
+}
+
+TEST_P(Rundweg, ASavedPositionReadsBack) {
+  CMFensterPosition position;
+  ASSERT_TRUE(Lies(position, Formular()));
+  const std::string path = ordner_ / "position.aqz";
+  ASSERT_TRUE(position.SaveToFile(path.c_str(), "Küche"));
+  CMFensterPosition wieder;
+  ASSERT_TRUE(wieder.ReadFromFile(path.c_str())) << Fehlertext(wieder);
+  EXPECT_EQ(wieder.GetError(), 0);
+  EXPECT_EQ(wieder.GetText(1), "Küche");
+  ErwarteGleicheUmrisse(*position.GetFensterPtr(), *wieder.GetFensterPtr());
+}
+
+INSTANTIATE_TEST_SUITE_P(Position, Rundweg, testing::ValuesIn(BeispielNamen()), BeispielTestName);
+
+TEST_F(Position, OuterPartsOfTheFormStandForThoseOfTheTemplate) {
+  Vorlage("T", Inhalt(BeispielPfad("sprossen_und_zusatzteile.aqz")));
+  CMFensterPosition position;
+  ASSERT_TRUE(Lies(position,
+                   "[Allgemeines]\nTyp=T\n[Rahmen]\nZ1=1,30,0,1,2,1,2,0,1\nZ2=1,50,0,1,2,1,2,4,4\n"
+                   "Z3=2,0,0,1,2,1,2,3,3\nZ4=3,200,0,1,2,1,2,4,4\nZ5=4,40,0,1,2,1,2,3,3\n"
+                   "Z6=2,60,0,1,2,1,2,3,3\n"))
+      << Fehlertext(position);
+  const std::vector<CMBauteil>& teile = position.GetFensterPtr()->GetRahmenPtr()->EinzelTeile;
+  ASSERT_EQ(teile.size(), 1U + 5U + 1U);  // mullion, template's parts, the new one
+  EXPECT_DOUBLE_EQ(teile[2].dBreite, 5.0);
+  EXPECT_DOUBLE_EQ(teile[2].dDicke, 22.0);  // not in the form, so the template's
+  EXPECT_FALSE(teile[3].IsVorhanden());
+  EXPECT_DOUBLE_EQ(teile[6].dBreite, 6.0);
+  XY size;
+  position.GetFensterPtr()->GetSize(size);
+  EXPECT_NEAR(size.x, 4 + 160 + 6, 1e-9);
+  EXPECT_NEAR(size.y, 3 + 5 + 140 + 20, 1e-9);
+}
+
+TEST_F(Position, TextsAreOneLineInTheFile) {
+  CMFensterPosition position;
+  ASSERT_TRUE(LiesBeispielposition(position, "diele.txt"));
+  const std::string path = ordner_ / "position.aqz";
+  ASSERT_TRUE(position.SaveToFile(path.c_str()));
+  CMFensterPosition wieder;
+  ASSERT_TRUE(wieder.ReadFromFile(path.c_str()));
+  EXPECT_EQ(wieder.GetText(1), "Diele");
+  EXPECT_EQ(wieder.GetText(2), "");  // only the first goes along
+  ASSERT_TRUE(position.SaveToFile(path.c_str(), "zwei\r\n[Fluegel1]\nTyp=9"));
+  ASSERT_TRUE(wieder.ReadFromFile(path.c_str()));
+  EXPECT_EQ(wieder.GetText(1), "zwei  [Fluegel1] Typ=9");
+  EXPECT_EQ(wieder.GetFensterPtr()->GetAnzahlFluegel(), 1);
+}
+
+TEST_F(Position, AFileThatCannotBeWrittenIsAnError) {
+  CMFensterPosition position;
+  ASSERT_TRUE(LiesBeispielposition(position, "kueche.txt"));
+  const std::string path = ordner_ / "gibtsnicht/position.aqz";
+  EXPECT_FALSE(position.SaveToFile(path.c_str()));
+  EXPECT_EQ(position.GetError(), 41);
+  EXPECT_EQ(Fehlertext(position), "Die Datei '" + path + "' kann nicht gespeichert werden !");
+  EXPECT_FALSE(position.SaveToFile(""));
+  EXPECT_FALSE(position.ReadFromFile(path.c_str()));
+  EXPECT_EQ(position.GetError(), 28);
+}
+
+TEST_F(Position, ACopyIsItsOwn) {
+  CMFensterPosition position;
+  ASSERT_TRUE(LiesBeispielposition(position, "kueche.txt"));
+  CMFensterPosition kopie(position);
+  EXPECT_TRUE(kopie.SetText(1, "anders"));
+  EXPECT_FALSE(kopie.SetText(0, "keiner"));
+  EXPECT_FALSE(kopie.SetText(50, "keiner"));
+  kopie.GetFensterPtr()->GetFluegelPtr(0L)->DeleteAlleSprossen();
+  EXPECT_EQ(position.GetText(1), "Küche, Nordseite");
+  EXPECT_EQ(position.GetFensterPtr()->GetFluegelPtr(0L)->Sprossen.size(), 2U);
+  EXPECT_FALSE(position.ReadFromFile("gibtsnicht"));
+  kopie = position;
+  EXPECT_EQ(kopie.GetError(), 28);
+  EXPECT_EQ(kopie.GetFensterPtr()->GetAnzahlFluegel(), 0);
+}
+
+}  // namespace
+}  // namespace lintavo::test
