@@ -1,5 +1,6 @@
 // The C interface: every function answers as the façade's member of its name,
 // nothing that a host passes does harm, and text and handles keep their rules.
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -7,6 +8,7 @@
 
 #include "lintavo/api/CFeApi.h"
 #include "lintavo/capi/Handles.h"
+#include "lintavo/ini/CIniFile.h"
 #include "lintavo/lintavo_c.h"
 
 #include "support/Beispiele.h"
@@ -362,6 +364,114 @@ TEST(CApiEdits, FilesAndBuffersGoThereAndBack) {
   EXPECT_EQ(lintavo_is_file_compressed("A.CQZ"), 1);
   EXPECT_EQ(lintavo_is_file_compressed("a.aqz"), 0);
   EXPECT_EQ(lintavo_is_file_temporary("a.tmp"), 1);
+}
+
+// --- positions and settings -----------------------------------------------------
+
+const std::string kExamples = LINTAVO_EXAMPLES_DIR;
+
+TEST(CApiPosition, MakesTheWindowOfAParameterFileAndKeepsItsTexts) {
+  const std::string parameters = kExamples + "/Positionen/kueche.txt";
+  lintavo_position* position = lintavo_position_create();
+  ASSERT_EQ(
+      lintavo_position_read_from_parameter_file(position, parameters.c_str(), kExamples.c_str()), 1)
+      << Text(lintavo_position_get_error_msg, position);
+  const Window w;
+  ASSERT_EQ(lintavo_position_get_fenster(position, w), 1);
+  EXPECT_GE(lintavo_window_get_anzahl_fluegel(w), 1);
+
+  // The window is a copy: what is done to it reaches the position when handed back.
+  ASSERT_EQ(lintavo_window_set_breite_hoehe(w, nullptr, 171.0, 163.0), 1);
+  ASSERT_EQ(lintavo_window_berechne(w), 1);
+  const Window untouched;
+  ASSERT_EQ(lintavo_position_get_fenster(position, untouched), 1);
+  EXPECT_GT(std::abs(lintavo_window_get_fenster_breite(untouched) - 171.0), 0.5);
+  ASSERT_EQ(lintavo_position_set_fenster(position, w), 1);
+
+  EXPECT_EQ(lintavo_position_set_text(position, 49, "zuletzt"), 1);
+  EXPECT_EQ(lintavo_position_set_text(position, 50, "zu weit"), 0);
+  EXPECT_EQ(Text(lintavo_position_get_text, position, 49L), "zuletzt");
+  const Ordner folder;
+  const std::string path = folder / "position.aqz";
+  ASSERT_EQ(lintavo_position_save_to_file(position, path.c_str(), "Wohnzimmer"), 1);
+  lintavo_position_destroy(position);
+
+  lintavo_position* again = lintavo_position_create();
+  ASSERT_EQ(lintavo_position_read_from_file(again, path.c_str()), 1);
+  EXPECT_EQ(Text(lintavo_position_get_text, again, 1L), "Wohnzimmer");
+  const Window read;
+  ASSERT_EQ(lintavo_position_get_fenster(again, read), 1);
+  EXPECT_NEAR(lintavo_window_get_fenster_breite(read), 171.0, 1e-6);
+  lintavo_position_destroy(again);
+}
+
+TEST(CApiPosition, ErrorsCarryNumberAndText) {
+  lintavo_position* position = lintavo_position_create();
+  EXPECT_EQ(lintavo_position_get_error(position), 48);
+  EXPECT_EQ(lintavo_position_read_from_file(position, "/nowhere/a.aqz"), 0);
+  EXPECT_EQ(lintavo_position_get_error(position), 28);
+  EXPECT_NE(Text(lintavo_position_get_error_msg, position).find("/nowhere/a.aqz"),
+            std::string::npos);
+  EXPECT_EQ(lintavo_position_read_from_parameter_file(position, "a.ini", nullptr), 0);
+  lintavo_position_destroy(position);
+  EXPECT_EQ(lintavo_position_get_error(nullptr), -1);
+  EXPECT_EQ(lintavo_position_get_fenster(nullptr, nullptr), 0);
+  lintavo_position_destroy(nullptr);
+}
+
+TEST(CApiSettings, GeneralSettingsGoThereAndBack) {
+  lintavo_settings* settings = lintavo_settings_create();
+  const lintavo_generelles values{0, 1.5, 2.0, 3.0, 4, 5.0, 6.0, 7.0, 0.5F, 0.25F, 0.125F, 8.0F};
+  ASSERT_EQ(lintavo_settings_set_generelles(settings, &values), 1);
+  const Ordner folder;
+  const std::string path = folder / "generelles.ini";
+  ASSERT_EQ(lintavo_settings_save_generelles(settings, path.c_str()), 1);
+  lintavo_generelles kept{};
+  ASSERT_EQ(lintavo_settings_get_generelles(settings, &kept), 1);
+  EXPECT_EQ(kept.texthoehe, 2.0);
+  lintavo_settings_destroy(settings);
+
+  settings = lintavo_settings_create();
+  ASSERT_EQ(lintavo_settings_read_generelles(settings, path.c_str()), 1);
+  lintavo_generelles read{};
+  ASSERT_EQ(lintavo_settings_get_generelles(settings, &read), 1);
+  EXPECT_EQ(read.maszlinien_faktor, 1.5);
+  EXPECT_EQ(read.min_textpixel, 4);
+  EXPECT_EQ(read.stift_rahmen, 0.5F);
+  EXPECT_EQ(read.stift_symbole, 0.25F);
+  EXPECT_EQ(read.stift_sprossen, 0.125F);
+  EXPECT_EQ(read.stift_maszlinien, 8.0F);
+  EXPECT_EQ(lintavo_settings_read_generelles(settings, "/nowhere/a.ini"), 0);
+  lintavo_settings_destroy(settings);
+}
+
+TEST(CApiSettings, MaterialsAnswerByListAndIndex) {
+  const Ordner folder;
+  const std::string path = folder / "material.ini";
+  CIniFile document;
+  for (const char* line : {"[Bauteil1]", "Name=Holz", "RGB2d=1,2,3", "[Bauteil2]", "Name=Glas"}) {
+    document.AddLine(line);
+  }
+  ASSERT_EQ(document.Write(path.c_str()), 1);
+  lintavo_settings* settings = lintavo_settings_create();
+  ASSERT_EQ(lintavo_settings_read_materials(settings, path.c_str()), 1);
+  ASSERT_EQ(lintavo_settings_read_material_ini_file(settings, path.c_str()), 1);
+  EXPECT_EQ(lintavo_settings_get_anzahl_materialien(settings, LINTAVO_MATERIAL_BAUTEIL), 2);
+  EXPECT_EQ(lintavo_settings_get_anzahl_materialien(settings, LINTAVO_MATERIAL_SYMBOL), 0);
+  EXPECT_EQ(lintavo_settings_get_anzahl_materialien(settings, 3), 0);
+  EXPECT_EQ(Text(lintavo_settings_get_material_name, settings, 0, 1L), "Glas");
+  EXPECT_EQ(Text(lintavo_settings_get_material_name, settings, 0, 2L), "");
+  EXPECT_EQ(lintavo_settings_get_color2d(settings, 0, 0), 1u + 256u * 2u + 65536u * 3u);
+  EXPECT_EQ(lintavo_settings_get_color2d_from_ini(settings, "Bauteil", 1),
+            1u + 256u * 2u + 65536u * 3u);
+  EXPECT_EQ(lintavo_settings_set_texture_id(settings, 0, 1, 77), 1);
+  lintavo_material material{};
+  ASSERT_EQ(lintavo_settings_get_material(settings, 0, 1, &material), 1);
+  EXPECT_EQ(material.textur_id, 77);
+  EXPECT_EQ(lintavo_settings_set_texture_id(settings, 0, 2, 77), 0);
+  EXPECT_EQ(lintavo_settings_get_material(settings, 0, -1, &material), 0);
+  lintavo_settings_destroy(settings);
+  EXPECT_EQ(lintavo_settings_get_material(nullptr, 0, 0, &material), 0);
 }
 
 // --- the rules of the boundary --------------------------------------------------

@@ -27,7 +27,8 @@ from .errors import (
 from .geometry import Box, Line, Point, Polygon
 from .parts import Dimension, Dimensions, FillingKind, Fitting, Part, PartKind
 from .sash import Filling, Sash
-from .window import Opening, Window, find_window_file, stored_name
+from .position import Position
+from .window import Opening, PictureOptions, Window, find_window_file, stored_name
 
 __all__ = [
     "Box",
@@ -44,8 +45,10 @@ __all__ = [
     "Part",
     "PartKind",
     "PictureError",
+    "PictureOptions",
     "Point",
     "Polygon",
+    "Position",
     "ReadError",
     "Sash",
     "Window",

@@ -35,6 +35,44 @@ class Segment(ctypes.Structure):
     ]
 
 
+class Generelles(ctypes.Structure):
+    """lintavo_generelles"""
+
+    _fields_ = [
+        ("pixel", ctypes.c_int),
+        ("maszlinien_faktor", ctypes.c_double),
+        ("texthoehe", ctypes.c_double),
+        ("textbreite", ctypes.c_double),
+        ("min_textpixel", ctypes.c_long),
+        ("hilfslinienlaenge", ctypes.c_double),
+        ("pfeillaenge", ctypes.c_double),
+        ("pfeilbreite", ctypes.c_double),
+        ("stift_rahmen", ctypes.c_float),
+        ("stift_symbole", ctypes.c_float),
+        ("stift_sprossen", ctypes.c_float),
+        ("stift_maszlinien", ctypes.c_float),
+    ]
+
+
+class Material(ctypes.Structure):
+    """lintavo_material"""
+
+    _fields_ = [
+        ("diffus", ctypes.c_float * 3),
+        ("spiegel", ctypes.c_float * 3),
+        ("alpha", ctypes.c_float),
+        ("ambient_faktor", ctypes.c_float),
+        ("diffus_faktor", ctypes.c_float),
+        ("spiegel_faktor", ctypes.c_float),
+        ("spiegel_exponent", ctypes.c_float),
+        ("flags", ctypes.c_uint),
+        ("rgb2d", ctypes.c_float * 3),
+        ("textur_id", ctypes.c_int),
+        ("skale_x", ctypes.c_double),
+        ("skale_y", ctypes.c_double),
+    ]
+
+
 HANDLE = ctypes.c_void_p
 TEXT = ctypes.c_char_p
 INT = ctypes.c_int
@@ -45,6 +83,9 @@ DOUBLES = ctypes.POINTER(ctypes.c_double)
 LONGS = ctypes.POINTER(ctypes.c_long)
 OPENING = ctypes.POINTER(OpeningStruct)
 SEGMENT = ctypes.POINTER(Segment)
+GENERELLES = ctypes.POINTER(Generelles)
+MATERIAL = ctypes.POINTER(Material)
+ULONG = ctypes.c_ulong
 
 #: Result and arguments of every function by name.
 Signatures = Dict[str, Tuple[Any, List[Any]]]
@@ -143,11 +184,37 @@ FUNCTIONS: Signatures = {
     "lintavo_window_get_fluegel_glaslichte_hori": (INT, [HANDLE, LONG, HANDLE]),
     "lintavo_window_get_fluegel_glaslichte_vert": (INT, [HANDLE, LONG, HANDLE]),
     "lintavo_window_get_beschlag_zeichnung": (INT, [HANDLE, LONG, LONG, HANDLE]),
+    "lintavo_position_create": (HANDLE, []),
+    "lintavo_position_destroy": (None, [HANDLE]),
+    "lintavo_position_read_from_parameter_file": (INT, [HANDLE, TEXT, TEXT]),
+    "lintavo_position_read_from_file": (INT, [HANDLE, TEXT]),
+    "lintavo_position_save_to_file": (INT, [HANDLE, TEXT, TEXT]),
+    "lintavo_position_get_error": (LONG, [HANDLE]),
+    "lintavo_position_get_error_msg": (SIZE, [HANDLE, TEXT, SIZE]),
+    "lintavo_position_get_text": (SIZE, [HANDLE, LONG, TEXT, SIZE]),
+    "lintavo_position_set_text": (INT, [HANDLE, LONG, TEXT]),
+    "lintavo_position_get_fenster": (INT, [HANDLE, HANDLE]),
+    "lintavo_position_set_fenster": (INT, [HANDLE, HANDLE]),
+    "lintavo_settings_create": (HANDLE, []),
+    "lintavo_settings_destroy": (None, [HANDLE]),
+    "lintavo_settings_read_generelles": (INT, [HANDLE, TEXT]),
+    "lintavo_settings_save_generelles": (INT, [HANDLE, TEXT]),
+    "lintavo_settings_read_materials": (INT, [HANDLE, TEXT]),
+    "lintavo_settings_read_material_ini_file": (INT, [HANDLE, TEXT]),
+    "lintavo_settings_get_generelles": (INT, [HANDLE, GENERELLES]),
+    "lintavo_settings_set_generelles": (INT, [HANDLE, GENERELLES]),
+    "lintavo_settings_get_anzahl_materialien": (LONG, [HANDLE, INT]),
+    "lintavo_settings_get_material": (INT, [HANDLE, INT, LONG, MATERIAL]),
+    "lintavo_settings_get_material_name": (SIZE, [HANDLE, INT, LONG, TEXT, SIZE]),
+    "lintavo_settings_get_texture_name": (SIZE, [HANDLE, INT, LONG, TEXT, SIZE]),
+    "lintavo_settings_set_texture_id": (INT, [HANDLE, INT, LONG, INT]),
+    "lintavo_settings_get_color2d": (ULONG, [HANDLE, INT, LONG]),
+    "lintavo_settings_get_color2d_from_ini": (ULONG, [HANDLE, TEXT, LONG]),
 }
 
 DRAWING_FUNCTIONS: Signatures = {
     "lintavo_picture_status_text": (TEXT, [INT]),
     "lintavo_picture_format_from_path": (INT, [TEXT]),
-    "lintavo_window_draw": (INT, [HANDLE, INT, HANDLE]),
-    "lintavo_window_draw_to_file": (INT, [HANDLE, INT, TEXT]),
+    "lintavo_window_draw": (INT, [HANDLE, INT, INT, HANDLE]),
+    "lintavo_window_draw_to_file": (INT, [HANDLE, INT, INT, TEXT]),
 }

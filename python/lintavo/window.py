@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 import ctypes
+import enum
 import os
 import sys
 import weakref
@@ -23,8 +24,9 @@ _SVG, _PDF, _PNG = 0, 1, 2
 _PICTURE_OK = 0
 
 
-def _encode(path: Path) -> bytes:
-    # The library takes UTF-8 on Windows and the system's own bytes elsewhere.
+def encode_path(path: Path) -> bytes:
+    """A path as the library takes it: UTF-8 on Windows, elsewhere the system's own
+    bytes."""
     name = os.fspath(path)
     return name.encode("utf-8") if sys.platform == "win32" else os.fsencode(name)
 
@@ -59,6 +61,16 @@ class Opening:
 
 def _margins(opening: Optional[Opening]):
     return None if opening is None else ctypes.byref(opening._struct())
+
+
+class PictureOptions(enum.IntFlag):
+    """What a picture shows; combined by ``|``."""
+
+    NONE = 0  #: filled shapes from inside, with dimensions and opening symbols
+    OUTSIDE = 1  #: seen from outside
+    NO_DIMENSIONS = 2  #: without dimension lines and their texts
+    NO_SYMBOLS = 4  #: without opening symbols
+    VISIBLE_EDGES = 8  #: visible edges instead of filled shapes
 
 
 class Window:
@@ -106,7 +118,7 @@ class Window:
     def read(cls, path: Path) -> "Window":
         """Reads a plain or compressed macro file and calculates. Raises ReadError."""
         window = cls()
-        name = _encode(path)
+        name = encode_path(path)
         compressed = _calls.call("lintavo_is_file_compressed", name)
         function = "lintavo_window_read_from_" + ("compressed_file" if compressed else "file")
         if not _calls.call(function, window.handle, name):
@@ -131,7 +143,7 @@ class Window:
 
     def write(self, path: Path) -> None:
         """Writes a plain macro file. Raises WriteError."""
-        if not _calls.call("lintavo_window_write_to_file", self.handle, _encode(path)):
+        if not _calls.call("lintavo_window_write_to_file", self.handle, encode_path(path)):
             raise WriteError(0, f"{os.fspath(path)!r} cannot be written")
 
     def copy(self) -> "Window":
@@ -238,31 +250,31 @@ class Window:
         found = _calls.numbers("lintavo_window_get_box", 4, self.handle, overhang)
         return None if found is None else Box(*found)
 
-    def _picture(self, picture_format: int) -> bytes:
+    def _picture(self, picture_format: int, options: PictureOptions) -> bytes:
         with _calls.record("bytes") as block:
-            _check_picture(
-                _library.drawing().lintavo_window_draw(self.handle, picture_format, block)
-            )
+            draw = _library.drawing().lintavo_window_draw
+            _check_picture(draw(self.handle, picture_format, int(options), block))
             return _calls.content_of(block)
 
-    def svg(self) -> str:
+    def svg(self, options: PictureOptions = PictureOptions.NONE) -> str:
         """The picture as SVG text. Raises PictureError."""
-        return self._picture(_SVG).decode("utf-8")
+        return self._picture(_SVG, options).decode("utf-8")
 
-    def pdf(self) -> bytes:
+    def pdf(self, options: PictureOptions = PictureOptions.NONE) -> bytes:
         """The picture as PDF. Raises PictureError."""
-        return self._picture(_PDF)
+        return self._picture(_PDF, options)
 
-    def png(self) -> bytes:
+    def png(self, options: PictureOptions = PictureOptions.NONE) -> bytes:
         """The picture as PNG. Raises PictureError."""
-        return self._picture(_PNG)
+        return self._picture(_PNG, options)
 
-    def draw(self, path: Path) -> None:
+    def draw(self, path: Path, options: PictureOptions = PictureOptions.NONE) -> None:
         """Draws a file whose ending says the format: svg, pdf, png. Raises PictureError."""
         library = _library.drawing()
-        name = _encode(path)
+        name = encode_path(path)
         picture_format = library.lintavo_picture_format_from_path(name)
-        _check_picture(library.lintavo_window_draw_to_file(self.handle, picture_format, name))
+        draw = library.lintavo_window_draw_to_file
+        _check_picture(draw(self.handle, picture_format, int(options), name))
 
     def _repr_svg_(self) -> Optional[str]:
         """What a notebook shows; nothing for a window that cannot be drawn."""
@@ -285,10 +297,10 @@ def _check_picture(status: int) -> None:
 
 def stored_name(path: Path) -> str:
     """The designation that a macro file stores, without reading the whole window."""
-    return _calls.text("lintavo_get_bezeichnung_from_file", _encode(path))
+    return _calls.text("lintavo_get_bezeichnung_from_file", encode_path(path))
 
 
 def find_window_file(directory: Path) -> Optional[str]:
     """The first macro file in a folder and the folders below; None without any."""
-    found = _calls.text_bytes("lintavo_get_valid_makro_file", _encode(directory))
+    found = _calls.text_bytes("lintavo_get_valid_makro_file", encode_path(directory))
     return os.fsdecode(found) or None

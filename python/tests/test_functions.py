@@ -1,6 +1,7 @@
 """The declared functions agree with the headers of the C interface: a name, a type
 or an argument that differs would read wrong memory instead of failing."""
 
+import ctypes
 import re
 import unittest
 
@@ -21,6 +22,9 @@ PLAIN = {
     "long*": _functions.LONGS,
     "lintavo_opening*": _functions.OPENING,
     "lintavo_segment*": _functions.SEGMENT,
+    "lintavo_generelles*": _functions.GENERELLES,
+    "lintavo_material*": _functions.MATERIAL,
+    "unsigned long": _functions.ULONG,
 }
 
 
@@ -29,6 +33,13 @@ def to_ctypes(c_type):
     if c_type not in PLAIN and re.fullmatch(r"lintavo_\w+\*", c_type):
         return _functions.HANDLE
     return PLAIN[c_type]
+
+
+def to_field(field, c_type):
+    name, _, length = field.rstrip("]").partition("[")
+    plain = {"float": ctypes.c_float, "unsigned int": ctypes.c_uint}.get(c_type)
+    field_type = plain or PLAIN[c_type]
+    return name, field_type * int(length) if length else field_type
 
 
 def declared(headers):
@@ -62,12 +73,14 @@ class Functions(unittest.TestCase):
         for name, record in [
             ("lintavo_opening", _functions.OpeningStruct),
             ("lintavo_segment", _functions.Segment),
+            ("lintavo_generelles", _functions.Generelles),
+            ("lintavo_material", _functions.Material),
         ]:
             body = re.search(r"struct %s \{(.*?)\}" % name, text, re.S).group(1)
             body = re.sub(r"/\*.*?\*/", "", body, flags=re.S)
             fields = []
-            for c_type, names in re.findall(r"(int|double) ([\w, ]+);", body):
-                fields += [(field.strip(), PLAIN[c_type]) for field in names.split(",")]
+            for c_type, names in re.findall(r"([a-z]+(?: int)?) ([\w, \[\]]+);", body):
+                fields += [to_field(field.strip(), c_type) for field in names.split(",")]
             self.assertEqual(record._fields_, fields)
 
 

@@ -280,6 +280,15 @@ class Pictures(unittest.TestCase):
             with self.assertRaises(lintavo.PictureError):
                 window.draw(Path(folder) / "nowhere" / "bild.svg")
 
+    def test_options_change_the_picture(self):
+        options = lintavo.PictureOptions
+        with rectangle_window() as window:
+            full = len(window.svg())
+            self.assertLess(len(window.svg(options.NO_DIMENSIONS)), full)
+            self.assertLess(len(window.svg(options.NO_DIMENSIONS | options.NO_SYMBOLS)), full)
+            with self.assertRaises(lintavo.PictureError):
+                window.svg(1024)
+
     def test_an_empty_window_has_no_picture(self):
         with lintavo.Window() as window:
             self.assertIsNone(window._repr_svg_())
