@@ -20,3 +20,8 @@ if(LINTAVO_BUILD_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link,float-cast-overflow)
   add_compile_definitions(_GLIBCXX_ASSERTIONS)
 endif()
+
+# Windows hosts look for lintavo.dll, whichever compiler made it.
+if(WIN32)
+  set(CMAKE_SHARED_LIBRARY_PREFIX "")
+endif()

@@ -1,4 +1,5 @@
 // The façade's drawings: dimension lines, symbols, fillings, fittings, views.
+#include <limits>
 #include <string>
 
 #include <gtest/gtest.h>

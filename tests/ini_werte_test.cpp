@@ -62,6 +62,9 @@ TEST(IniNumbers, AreReadByTheirPrefix) {
 }
 
 TEST(IniNumbers, AreReadAsTheCLibraryReadsThem) {
+#ifdef _WIN32
+  GTEST_SKIP() << "the C library of Windows reads and writes some numbers otherwise";
+#endif
   const std::vector<std::string> pieces = {"0",
                                            "1",
                                            "9",
@@ -117,6 +120,9 @@ TEST(IniNumbers, AreWrittenWithSixDecimalsAtMost) {
 }
 
 TEST(IniNumbers, ComeBackRoundedToSixDecimals) {
+#ifdef _WIN32
+  GTEST_SKIP() << "the C library of Windows reads and writes some numbers otherwise";
+#endif
   const unsigned seed = std::random_device{}();
   SCOPED_TRACE("seed " + std::to_string(seed));
   std::mt19937_64 random(seed);

@@ -21,7 +21,7 @@ _MAJOR = 1
 
 def _file_name(name: str) -> str:
     if sys.platform == "win32":
-        return f"lib{name}.dll"
+        return f"{name}.dll"
     if sys.platform == "darwin":
         return f"lib{name}.{_MAJOR}.dylib"
     return f"lib{name}.so.{_MAJOR}"
