@@ -1,5 +1,4 @@
 // The façade's queries and setters: check, look up, read or store.
-#include <algorithm>
 #include <cstring>
 #include <utility>
 #include <vector>
@@ -57,11 +56,16 @@ const CMBauteil* BauteilDerArt(const CMFensterSatz* satz, long lArt, long i, boo
 }
 
 long AnzahlDerArt(const CMFensterSatz& satz, long lArt, bool mitSprossen) {
-  const std::vector<CMBauteil>* liste = ListeDerArt(satz, lArt, mitSprossen);
-  return liste ? static_cast<long>(
-                     std::count_if(liste->begin(), liste->end(),
-                                   [](const CMBauteil& bauteil) { return bauteil.IsVorhanden(); }))
-               : 0;
+  switch (lArt) {
+    case kArtRahmenteil:
+      return satz.lGetAnzahlRahmenBauteile();
+    case kArtEinzelteil:
+      return satz.lGetAnzahlEinzelBauteile();
+    case kArtSprosse:
+      return mitSprossen ? satz.lGetAnzahlSprossenBauteile() : 0;
+    default:
+      return 0;
+  }
 }
 
 int UmrissVon(const CMBauteil* bauteil, long lSegment, CFeApiPolygon& umriss, double& dLaenge,

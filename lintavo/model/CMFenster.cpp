@@ -233,6 +233,12 @@ CMBauteil* CMFenster::AddRahmenEinzelBauteil(const CMKnoten& k1, const CMKnoten&
   return &rahmen_.EinzelTeile.back();
 }
 
+bool CMFenster::DeleteRahmenEinzelBauteil(long i) {
+  if (!rahmen_.DeleteEinzelBauteil(i)) return false;
+  Invalidiere();
+  return true;
+}
+
 long CMFenster::AddZusatzMasz(const CMZusatzMasz& masz) {
   zusatzMasze_.push_back(masz);
   return GetAnzahlZusatzMasze() - 1;

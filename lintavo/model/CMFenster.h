@@ -118,7 +118,9 @@ class LINTAVO_API CMFenster {
   long GetRahmenEinzelBauteilNr(const CMBauteil* bauteil) const {
     return rahmen_.GetEinzelBauteilNr(bauteil);
   }
-  bool DeleteRahmenEinzelBauteil(long i) { return rahmen_.DeleteEinzelBauteil(i); }
+  /// Removes one; the next calculation lays the others anew, since some may have
+  /// ended at it. False for a bad index.
+  bool DeleteRahmenEinzelBauteil(long i);
 
   // --- macro file ------------------------------------------------------------
 
