@@ -10,3 +10,13 @@ if(LINTAVO_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
+
+# Every part of a fuzzed library counts what is reached. Casts of
+# numbers that do not fit are looked for, too: the sanitizer's default leaves them out.
+if(LINTAVO_BUILD_FUZZ)
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    message(FATAL_ERROR "LINTAVO_BUILD_FUZZ needs clang: use the preset \"fuzz\"")
+  endif()
+  add_compile_options(-fsanitize=fuzzer-no-link,float-cast-overflow)
+  add_compile_definitions(_GLIBCXX_ASSERTIONS)
+endif()

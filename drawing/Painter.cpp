@@ -1,6 +1,9 @@
 // Puts a scene onto a Cairo surface: the layout on paper and the colours.
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+
+#include "lintavo/geom/Toleranzen.h"
 
 #include "Painter_intern.h"
 
@@ -10,6 +13,13 @@ namespace {
 // Shares of the paper's longer side.
 constexpr double kMarginShare = 0.04;
 constexpr double kStrokeShare = 0.0009;
+constexpr double kDashShare = 0.008;
+constexpr double kDashGapShare = 0.005;
+
+// The size at which a font's digits are measured.
+constexpr double kSampleSize = 100.0;
+
+constexpr double kQuarterTurn = -1.5707963267948966;
 
 struct Colour {
   double red;
@@ -22,6 +32,9 @@ constexpr Colour Rgb(int red, int green, int blue) {
 }
 
 constexpr Colour kInk = Rgb(0x4a, 0x44, 0x3c);
+constexpr Colour kSymbolInk = Rgb(0x2f, 0x5d, 0x8a);
+constexpr Colour kFittingInk = Rgb(0x26, 0x22, 0x1e);
+constexpr Colour kMeasureInk = Rgb(0x33, 0x33, 0x33);
 
 // The frame is the darkest wood, the sashes are lighter: what opens stands out.
 Colour FillColour(ShapeKind kind) {
@@ -30,20 +43,47 @@ Colour FillColour(ShapeKind kind) {
       return Rgb(0xcb, 0xb5, 0x92);
     case ShapeKind::kEinzelteil:
       return Rgb(0xc1, 0xaa, 0x86);
+    case ShapeKind::kZusatzteil:
+      return Rgb(0xb4, 0xb3, 0xac);
     case ShapeKind::kGlas:
       return Rgb(0xdb, 0xea, 0xf3);
     case ShapeKind::kPaneel:
       return Rgb(0xe4, 0xe1, 0xda);
     case ShapeKind::kLamellen:
-      return Rgb(0xd3, 0xd6, 0xd2);
+      return Rgb(0x8d, 0x92, 0x8f);
+    case ShapeKind::kLamelle:
+      return Rgb(0xd8, 0xdb, 0xd6);
     case ShapeKind::kFluegelteil:
       return Rgb(0xe9, 0xdc, 0xc4);
     case ShapeKind::kFluegelEinzelteil:
       return Rgb(0xde, 0xcf, 0xb4);
     case ShapeKind::kSprosse:
       return Rgb(0xf1, 0xe8, 0xd6);
+    case ShapeKind::kMaszPfeil:
+      return kMeasureInk;
   }
   return kInk;
+}
+
+struct Stroke {
+  Colour colour;
+  double width;  // as a share of the usual one
+};
+
+Stroke StrokeOf(LineKind kind) {
+  switch (kind) {
+    case LineKind::kAnsicht:
+      return {kInk, 1.0};
+    case LineKind::kOeffnungsSymbol:
+      return {kSymbolInk, 1.0};
+    case LineKind::kBeschlag:
+      return {kFittingInk, 1.2};
+    case LineKind::kMaszLinie:
+      return {kMeasureInk, 0.8};
+    case LineKind::kHilfsLinie:
+      return {kMeasureInk, 0.6};
+  }
+  return {kInk, 1.0};
 }
 
 Point ToPaper(const Layout& layout, const Point& point) {
@@ -64,6 +104,118 @@ void SetColour(cairo_t* cairo, const Colour& colour) {
   cairo_set_source_rgb(cairo, colour.red, colour.green, colour.blue);
 }
 
+bool IsSame(const Point& a, const Point& b) {
+  return std::abs(a.x - b.x) < kNullLaenge && std::abs(a.y - b.y) < kNullLaenge;
+}
+
+const Point& Corner(const Shape& shape, std::size_t i) {
+  return shape.outline[i % shape.outline.size()];
+}
+
+// A part that closes round, as the frame of a circle, has an outline that runs along
+// its outer side, across the seam, back along its inner side and across the seam again.
+// Tells whether the edge from corner `i` is such a seam.
+bool IsSeam(const Shape& shape, std::size_t i) {
+  const std::size_t count = shape.outline.size();
+  // The two passes lie half the outline apart.
+  const std::size_t twin = i + count / 2;
+  return count > 4 && count % 2 == 0 && IsSame(Corner(shape, i), Corner(shape, twin + 1)) &&
+         IsSame(Corner(shape, i + 1), Corner(shape, twin));
+}
+
+bool HasSeam(const Shape& shape) {
+  for (std::size_t i = 0; i < shape.outline.size() / 2; ++i) {
+    if (IsSeam(shape, i)) return true;
+  }
+  return false;
+}
+
+void TraceWithoutSeam(cairo_t* cairo, const Shape& shape, const Layout& layout) {
+  cairo_new_path(cairo);
+  for (std::size_t i = 0; i < shape.outline.size(); ++i) {
+    const Point from = ToPaper(layout, Corner(shape, i));
+    const Point to = ToPaper(layout, Corner(shape, i + 1));
+    if (IsSeam(shape, i)) continue;
+    if (!cairo_has_current_point(cairo) || i == 0 || IsSeam(shape, i - 1)) {
+      cairo_move_to(cairo, from.x, from.y);
+    }
+    cairo_line_to(cairo, to.x, to.y);
+  }
+}
+
+void PaintShape(cairo_t* cairo, const Shape& shape, const Layout& layout, double longSide) {
+  TraceOutline(cairo, shape, layout);
+  SetColour(cairo, FillColour(shape.kind));
+  if (shape.kind == ShapeKind::kMaszPfeil) {
+    cairo_fill(cairo);
+    return;
+  }
+  if (HasSeam(shape)) {
+    cairo_fill(cairo);
+    TraceWithoutSeam(cairo, shape, layout);
+  } else {
+    cairo_fill_preserve(cairo);
+  }
+  SetColour(cairo, kInk);
+  cairo_set_line_width(cairo, longSide * kStrokeShare);
+  cairo_stroke(cairo);
+}
+
+void PaintLine(cairo_t* cairo, const Line& line, const Layout& layout, double longSide) {
+  const Stroke stroke = StrokeOf(line.kind);
+  const double dashes[] = {longSide * kDashShare, longSide * kDashGapShare};
+  const Point from = ToPaper(layout, line.from);
+  const Point to = ToPaper(layout, line.to);
+  SetColour(cairo, stroke.colour);
+  cairo_set_line_width(cairo, longSide * kStrokeShare * stroke.width);
+  cairo_set_dash(cairo, dashes, line.dashed ? 2 : 0, 0.0);
+  cairo_move_to(cairo, from.x, from.y);
+  cairo_line_to(cairo, to.x, to.y);
+  cairo_stroke(cairo);
+}
+
+// Letters keep their proportions at every size, so a text fits where it was placed.
+void SelectFont(cairo_t* cairo) {
+  cairo_font_options_t* options = cairo_font_options_create();
+  cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
+  cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
+  cairo_set_font_options(cairo, options);
+  cairo_font_options_destroy(options);
+  cairo_select_font_face(cairo, "sans-serif", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
+}
+
+// The font size at which digits are as high as asked for, or lower where the text
+// would be longer than its box.
+double FontSize(cairo_t* cairo, const std::string& text, double height, double length) {
+  cairo_text_extents_t digit;
+  cairo_text_extents_t whole;
+  cairo_set_font_size(cairo, kSampleSize);
+  cairo_text_extents(cairo, "0", &digit);
+  cairo_text_extents(cairo, text.c_str(), &whole);
+  if (!(digit.height > 0.0) || !(whole.width > 0.0)) return 0.0;
+  return kSampleSize * std::min(height / digit.height, length / whole.width);
+}
+
+void PaintText(cairo_t* cairo, const Text& text, const Layout& layout) {
+  const Box box = GetBox(text);
+  const double length = text.upright ? box.top - box.bottom : box.right - box.left;
+  const double size =
+      FontSize(cairo, text.inhalt, text.hoehe * layout.scale, length * layout.scale);
+  if (!std::isnormal(size)) return;
+  cairo_text_extents_t extents;
+  cairo_set_font_size(cairo, size);
+  cairo_text_extents(cairo, text.inhalt.c_str(), &extents);
+  const Point paper = ToPaper(layout, text.mitte);
+  cairo_save(cairo);
+  SetColour(cairo, kMeasureInk);
+  cairo_translate(cairo, paper.x, paper.y);
+  if (text.upright) cairo_rotate(cairo, kQuarterTurn);
+  cairo_move_to(cairo, -extents.x_bearing - extents.width / 2.0,
+                -extents.y_bearing - extents.height / 2.0);
+  cairo_show_text(cairo, text.inhalt.c_str());
+  cairo_restore(cairo);
+}
+
 }  // namespace
 
 bool FitLayout(const Box& box, double longSide, Layout& layout) {
@@ -82,15 +234,13 @@ bool FitLayout(const Box& box, double longSide, Layout& layout) {
 }
 
 void PaintScene(cairo_t* cairo, const Scene& scene, const Layout& layout) {
+  const double longSide = std::max(layout.width, layout.height);
   cairo_set_line_join(cairo, CAIRO_LINE_JOIN_ROUND);
-  cairo_set_line_width(cairo, std::max(layout.width, layout.height) * kStrokeShare);
-  for (const Shape& shape : scene.shapes) {
-    TraceOutline(cairo, shape, layout);
-    SetColour(cairo, FillColour(shape.kind));
-    cairo_fill_preserve(cairo);
-    SetColour(cairo, kInk);
-    cairo_stroke(cairo);
-  }
+  cairo_set_line_cap(cairo, CAIRO_LINE_CAP_ROUND);
+  for (const Shape& shape : scene.shapes) PaintShape(cairo, shape, layout, longSide);
+  for (const Line& line : scene.lines) PaintLine(cairo, line, layout, longSide);
+  SelectFont(cairo);
+  for (const Text& text : scene.texts) PaintText(cairo, text, layout);
 }
 
 }  // namespace lintavo::drawing

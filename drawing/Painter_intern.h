@@ -20,7 +20,8 @@ struct Layout {
 /// extent is zero, or so large or small that no finite scale exists.
 bool FitLayout(const Box& box, double longSide, Layout& layout);
 
-/// Paints every shape: filled with the colour of its kind, thinly outlined.
+/// Paints every shape, filled with the colour of its kind and thinly outlined, then
+/// the lines, then the texts.
 void PaintScene(cairo_t* cairo, const Scene& scene, const Layout& layout);
 
 }  // namespace lintavo::drawing

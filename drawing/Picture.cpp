@@ -81,6 +81,7 @@ PictureStatus RenderPng(const Scene& scene, const Layout& layout, std::string& b
 }
 
 bool HasPoint(const Scene& scene) {
+  if (!scene.lines.empty() || !scene.texts.empty()) return true;
   for (const Shape& shape : scene.shapes) {
     if (!shape.outline.empty()) return true;
   }

@@ -5,118 +5,101 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
-#include <utility>
 
 #include "lintavo/api/CFeApi.h"
 #include "lintavo/drawing/Text.h"
 
+#include "Dimensions_intern.h"
+#include "Layers_intern.h"
+#include "Parts_intern.h"
+#include "Symbols_intern.h"
+
 namespace lintavo::drawing {
 namespace {
 
-// The façade's numbers for the kinds of components.
-constexpr long kArtRahmenteile = 1;
-constexpr long kArtEinzelteile = 2;
-constexpr long kArtSprossen = 3;
+// Room for a digit, in digit heights; those of common sans-serif fonts are narrower.
+constexpr double kDigitWidth = 0.9;
 
-// The façade's segment number for the joined outline of a bent part.
-constexpr long kAlleSegmente = -1;
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-std::vector<Point> ToOutline(const CFeApiPolygon& polygon) {
-  std::vector<Point> outline;
-  if (polygon.lAnzahl <= 0 || polygon.pdX == nullptr || polygon.pdY == nullptr) return outline;
-  outline.reserve(static_cast<std::size_t>(polygon.lAnzahl));
-  for (int i = 0; i < polygon.lAnzahl; ++i) outline.push_back({polygon.pdX[i], polygon.pdY[i]});
-  return outline;
-}
-
-void AddShape(Scene& scene, ShapeKind kind, long fluegel, long bauteil,
-              const CFeApiPolygon& polygon) {
-  std::vector<Point> outline = ToOutline(polygon);
-  if (outline.size() < 3) return;
-  scene.shapes.push_back({kind, fluegel, bauteil, std::move(outline)});
-}
-
-void AddRahmenBauteile(const CFeApi& window, long art, ShapeKind kind, Scene& scene) {
-  const long count = window.GetAnzahlRahmenBauteile(art);
-  for (long i = 0; i < count; ++i) {
-    CFeApiPolygon outline;
-    double length = 0.0;
-    double start = 0.0;
-    double end = 0.0;
-    if (window.GetRahmenBauteilUmriss(art, i, kAlleSegmente, outline, length, start, end) == 1) {
-      AddShape(scene, kind, -1, i, outline);
+// Every layer's shapes, the farthest layer first, and then the symbols, each cut by
+// the shapes of the layers in front of its own.
+void AddLayers(const CFeApi& window, const SceneOptions& options, Scene& scene) {
+  const std::vector<long> layers = LayersFromBehind(window, options.side);
+  std::vector<std::size_t> ends;
+  for (const long layer : layers) {
+    if (layer == kRahmenEbene) {
+      AddRahmenShapes(window, scene);
+    } else {
+      AddFluegelShapes(window, layer, scene);
     }
+    ends.push_back(scene.shapes.size());
+  }
+  if (!options.symbols) return;
+  for (std::size_t i = 0; i < layers.size(); ++i) {
+    if (layers[i] != kRahmenEbene) AddSymbol(window, layers[i], options.side, ends[i], scene);
   }
 }
 
-void AddFluegelBauteile(const CFeApi& window, long fluegel, long art, ShapeKind kind,
-                        Scene& scene) {
-  const long count = window.GetFluegelAnzahlBauteile(art, fluegel);
-  for (long i = 0; i < count; ++i) {
-    CFeApiPolygon outline;
-    double length = 0.0;
-    double start = 0.0;
-    double end = 0.0;
-    if (window.GetFluegelBauteilUmriss(art, fluegel, i, kAlleSegmente, outline, length, start,
-                                       end) == 1) {
-      AddShape(scene, kind, fluegel, i, outline);
-    }
-  }
+void AddMeasures(const CFeApi& window, Scene& scene) {
+  Box box;
+  if (!GetBox(scene, box)) return;
+  const DimensionSizes sizes = SizesFor(std::max(box.right - box.left, box.top - box.bottom));
+  const std::vector<Dimension> dimensions = AddDimensions(window, box, sizes, scene);
+  AddDimensionTexts(dimensions, sizes, scene);
 }
 
-ShapeKind FuellungKind(eFeApiFuellArten art) {
-  switch (art) {
-    case eFeApiFuellungGlas:
-      return ShapeKind::kGlas;
-    case eFeApiFuellungKonstant:
-      return ShapeKind::kPaneel;
-    case eFeApiFuellungLamellen:
-      return ShapeKind::kLamellen;
-  }
-  return ShapeKind::kGlas;
-}
-
-void AddFuellung(const CFeApi& window, long fluegel, Scene& scene) {
-  CFeApiPolygon outline;
-  if (window.GetFluegelInnenPolygon(fluegel, 0.0, outline) != 1) return;
-  AddShape(scene, FuellungKind(window.GetFluegelFuellungArt(fluegel)), fluegel, -1, outline);
+// Widens a box; false for a point that is no finite one.
+bool Widen(const Point& point, Box& box) {
+  if (!std::isfinite(point.x) || !std::isfinite(point.y)) return false;
+  box.left = std::min(box.left, point.x);
+  box.right = std::max(box.right, point.x);
+  box.bottom = std::min(box.bottom, point.y);
+  box.top = std::max(box.top, point.y);
+  return true;
 }
 
 }  // namespace
 
-Scene BuildScene(const CFeApi& window) {
+Scene BuildScene(const CFeApi& window, const SceneOptions& options) {
   Scene scene;
   char name[256];
   const long length = window.GetFensterBezeichnung(name);
   scene.name = ToDisplayText(name, length);
-  AddRahmenBauteile(window, kArtRahmenteile, ShapeKind::kRahmenteil, scene);
-  AddRahmenBauteile(window, kArtEinzelteile, ShapeKind::kEinzelteil, scene);
-  const long count = window.GetAnzahlFluegel();
-  for (long i = 0; i < count; ++i) {
-    AddFuellung(window, i, scene);
-    AddFluegelBauteile(window, i, kArtSprossen, ShapeKind::kSprosse, scene);
-    AddFluegelBauteile(window, i, kArtRahmenteile, ShapeKind::kFluegelteil, scene);
-    AddFluegelBauteile(window, i, kArtEinzelteile, ShapeKind::kFluegelEinzelteil, scene);
+  AddLayers(window, options, scene);
+  if (options.hiddenLine) {
+    scene.shapes.clear();
+    AddView(window, options.side, scene);
   }
+  AddFittings(window, options.side, scene);
+  if (options.dimensions) AddMeasures(window, scene);
   return scene;
 }
 
+Box GetBox(const Text& text) {
+  const double length = kDigitWidth * text.hoehe * static_cast<double>(text.inhalt.size());
+  const double dx = (text.upright ? text.hoehe : length) / 2.0;
+  const double dy = (text.upright ? length : text.hoehe) / 2.0;
+  return {text.mitte.x - dx, text.mitte.y - dy, text.mitte.x + dx, text.mitte.y + dy};
+}
+
 bool GetBox(const Scene& scene, Box& box) {
-  constexpr double kInfinity = std::numeric_limits<double>::infinity();
   Box found{kInfinity, kInfinity, -kInfinity, -kInfinity};
-  bool any = false;
   for (const Shape& shape : scene.shapes) {
     for (const Point& point : shape.outline) {
-      if (!std::isfinite(point.x) || !std::isfinite(point.y)) return false;
-      found.left = std::min(found.left, point.x);
-      found.right = std::max(found.right, point.x);
-      found.bottom = std::min(found.bottom, point.y);
-      found.top = std::max(found.top, point.y);
-      any = true;
+      if (!Widen(point, found)) return false;
     }
   }
-  if (any) box = found;
-  return any;
+  for (const Line& line : scene.lines) {
+    if (!Widen(line.from, found) || !Widen(line.to, found)) return false;
+  }
+  for (const Text& text : scene.texts) {
+    const Box own = GetBox(text);
+    if (!Widen({own.left, own.bottom}, found) || !Widen({own.right, own.top}, found)) return false;
+  }
+  if (found.left > found.right) return false;
+  box = found;
+  return true;
 }
 
 }  // namespace lintavo::drawing

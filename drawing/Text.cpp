@@ -1,7 +1,9 @@
-// Text from a window's file, made fit to be shown: UTF-8 or Windows-1252.
+// Text from a window's file, made fit to be shown: UTF-8 or Windows-1252; lengths.
 #include "lintavo/drawing/Text.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
 #include <cstddef>
 
 namespace lintavo::drawing {
@@ -98,6 +100,16 @@ std::string_view WithoutCutCharacter(std::string_view text) {
   return text;
 }
 
+constexpr double kLargestPlain = 1e15;
+constexpr int kDecimals = 3;
+
+std::string WithoutTrailingZeros(std::string text) {
+  if (text.find('.') == std::string::npos) return text;
+  text.erase(text.find_last_not_of('0') + 1);
+  if (text.back() == '.') text.pop_back();
+  return text == "-0" ? "0" : text;
+}
+
 }  // namespace
 
 std::string ToDisplayText(std::string_view bytes) {
@@ -126,6 +138,18 @@ std::string ToDisplayText(const char (&buffer)[256], long length) {
   if (used < 256) return ToDisplayText(text);
   const std::string_view whole = WithoutCutCharacter(text);
   return ToDisplayText(IsUtf8(whole) ? whole : text);
+}
+
+std::string LengthText(double length) {
+  char buffer[64];
+  if (!(std::abs(length) < kLargestPlain)) {
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, length).ptr;
+    return std::string(buffer, end);
+  }
+  const auto end =
+      std::to_chars(buffer, buffer + sizeof buffer, length, std::chars_format::fixed, kDecimals)
+          .ptr;
+  return WithoutTrailingZeros(std::string(buffer, end));
 }
 
 }  // namespace lintavo::drawing

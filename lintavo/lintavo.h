@@ -6,6 +6,7 @@
 #include "lintavo/api/CFeApiPolygon.h"
 #include "lintavo/api/CFeApiStrecken.h"
 #include "lintavo/api/CFeApiWandOeffnungsParameter.h"
+#include "lintavo/capi/Handles.h"
 #include "lintavo/geom/CMStrecke.h"
 #include "lintavo/geom/GEOM2_Achse.h"
 #include "lintavo/geom/GEOM2_Eckpunkt.h"

@@ -189,6 +189,7 @@ TEST(Fassade, DimensionLengthsKeepTheirSignAndShareByName) {
       "[Allgemeines]#Name=A#[Achsen]#Y1=100#X1=50#X2=50#"
       "[Masz1]#Name=Teil#Laenge=-50,10#Richtung=1#Knoten1=2,0#Knoten2=1,0#"
       "[Masz2]#Name=TEIL#Laenge=100,10#Richtung=0#Knoten1=0,0#Knoten2=0,1#"
+      "[Masz3]#Name=Ecken#Laenge=100,10#Richtung=1#Knoten1=0,0,0,0#Knoten2=2,0,100,0#"
       "[Rahmen]#Rahmendicke=7#RahmenDefaults=7,0,1,2,1,2#Knoten1=0,0#Knoten2=2,1#"
       "[Fluegel1]#Typ=1,0#Rahmendicke=7#RahmenDefaults=7,1,1,3,1,3#Knoten1=0,0#Knoten2=2,1#";
   ASSERT_EQ(api.ReadFromBuffer(static_cast<long>(text.size()), text.data()), 1);
@@ -197,7 +198,7 @@ TEST(Fassade, DimensionLengthsKeepTheirSignAndShareByName) {
   EXPECT_DOUBLE_EQ(api.GetZMaszLaenge(1), 60.0);
   long h = 7;
   long v = 7;
-  // The horizontal one spans half the window only.
+  // One horizontal one spans half the window only, the other one no axes.
   EXPECT_EQ(api.IsZMaszBreiteHoehe(h, v), 0);
   EXPECT_EQ(h, -1);
   EXPECT_EQ(v, 1);

@@ -163,25 +163,109 @@ TEST_F(Paar, DepthGoesBeforeTheOrderOfOpening) {
   ErwarteStosz(51.5, 48.5);
 }
 
-// The clear opening of the sash is 13.3 to 86.7 by 13.3 to 66.7.
-TEST(Ansicht, TheEarlierOfTwoCrossingBarsRunsThrough) {
-  CMFenster fenster = Raster(1, 1, 100.0, 80.0);
-  ASSERT_TRUE(fenster.Berechne(false));
-  CMFensterSatz& fluegel = *fenster.GetFluegelPtr(0L);
+// A sash whose clear opening is 13.3 to 86.7 by 13.3 to 66.7, with bars 4 wide; its
+// own lines and those of the frame are 12.
+class Stabwerk : public testing::Test {
+ protected:
+  Stabwerk() : fenster(Raster(1, 1, 100.0, 80.0)) {
+    EXPECT_TRUE(fenster.Berechne(false));
+    EXPECT_TRUE(fenster.GetFluegelPtr(0L)->ErzeugeRahmenInnenPolygon(innen));
+  }
+
+  void Lege(const XY& a, const XY& b) {
+    CMFensterSatz& fluegel = *fenster.GetFluegelPtr(0L);
+    CMBauteil stab = fluegel.SprossenVorlage;
+    stab.dBreite = 4.0;
+    ASSERT_TRUE(fluegel.AddSprosse(stab, a, b, innen));
+  }
+
+  void ErwarteStaebe(const std::vector<Strecke>& erwartet) {
+    const std::vector<Strecke> bild = Bild(fenster, true);
+    EXPECT_EQ(bild.size(), 12u + erwartet.size());
+    ErwarteEnthalten(bild, erwartet);
+  }
+
+  CMFenster fenster;
   GEOM2_Polygon innen;
-  ASSERT_TRUE(fluegel.ErzeugeRahmenInnenPolygon(innen));
-  CMBauteil stab = fluegel.SprossenVorlage;
-  stab.dBreite = 4.0;
-  ASSERT_TRUE(fluegel.AddSprosse(stab, {0.0, 40.0}, {100.0, 40.0}, innen));
-  ASSERT_TRUE(fluegel.AddSprosse(stab, {50.0, 0.0}, {50.0, 80.0}, innen));
-  const std::vector<Strecke> bild = Bild(fenster, true);
-  EXPECT_EQ(bild.size(), 12u + 2u + 4u);
-  ErwarteEnthalten(bild, {{{13.3, 38.0}, {86.7, 38.0}},
-                          {{13.3, 42.0}, {86.7, 42.0}},
-                          {{48.0, 13.3}, {48.0, 38.0}},
-                          {{52.0, 13.3}, {52.0, 38.0}},
-                          {{48.0, 42.0}, {48.0, 66.7}},
-                          {{52.0, 42.0}, {52.0, 66.7}}});
+};
+
+TEST_F(Stabwerk, TheEarlierOfTwoCrossingBarsRunsThrough) {
+  Lege({0.0, 40.0}, {100.0, 40.0});
+  Lege({50.0, 0.0}, {50.0, 80.0});
+  ErwarteStaebe({{{13.3, 38.0}, {86.7, 38.0}},
+                 {{13.3, 42.0}, {86.7, 42.0}},
+                 {{48.0, 13.3}, {48.0, 38.0}},
+                 {{52.0, 13.3}, {52.0, 38.0}},
+                 {{48.0, 42.0}, {48.0, 66.7}},
+                 {{52.0, 42.0}, {52.0, 66.7}}});
+}
+
+// The sides of the second bar meet y = 38 and 42 at x = 50 + (y - 40) -+ 2 sqrt (2).
+TEST_F(Stabwerk, SlantedBarsAreCutExactlyAtTheSidesTheyMeet) {
+  Lege({0.0, 40.0}, {100.0, 40.0});
+  Lege({35.0, 25.0}, {65.0, 55.0});
+  const double d = 2.0 * std::sqrt(2.0);
+  const double e = std::sqrt(2.0);
+  ErwarteStaebe({{{13.3, 38.0}, {86.7, 38.0}},
+                 {{13.3, 42.0}, {86.7, 42.0}},
+                 {{35.0 + e, 25.0 - e}, {48.0 + d, 38.0}},
+                 {{35.0 - e, 25.0 + e}, {48.0 - d, 38.0}},
+                 {{52.0 + d, 42.0}, {65.0 + e, 55.0 - e}},
+                 {{52.0 - d, 42.0}, {65.0 - e, 55.0 + e}}});
+}
+
+// The ends of the first two bars lie on the sides of the third: although they are
+// nearer, the joint is drawn, since they cover only one side of it.
+TEST_F(Stabwerk, EdgeAlongTheBorderOfANearerPartStays) {
+  Lege({0.0, 40.0}, {48.0, 40.0});
+  Lege({52.0, 40.0}, {100.0, 40.0});
+  Lege({50.0, 0.0}, {50.0, 80.0});
+  ErwarteStaebe({{{13.3, 38.0}, {48.0, 38.0}},
+                 {{13.3, 42.0}, {48.0, 42.0}},
+                 {{52.0, 38.0}, {86.7, 38.0}},
+                 {{52.0, 42.0}, {86.7, 42.0}},
+                 {{48.0, 13.3}, {48.0, 66.7}},
+                 {{52.0, 13.3}, {52.0, 66.7}}});
+}
+
+// The second bar passes under the end of the first, its right side exactly below it.
+TEST_F(Stabwerk, EdgeBelowTheEndOfANearerPartStays) {
+  Lege({0.0, 40.0}, {48.0, 40.0});
+  Lege({46.0, 0.0}, {46.0, 80.0});
+  ErwarteStaebe({{{13.3, 38.0}, {48.0, 38.0}},
+                 {{13.3, 42.0}, {48.0, 42.0}},
+                 {{44.0, 13.3}, {44.0, 38.0}},
+                 {{44.0, 42.0}, {44.0, 66.7}},
+                 {{48.0, 13.3}, {48.0, 66.7}}});
+}
+
+// Bars one above the other: 0.0005 apart they share the line between them, and of
+// the longer one's side the rest is drawn; 0.002 apart each has its own.
+TEST_F(Stabwerk, EdgesThatCoincideWithinTheToleranceAreDrawnOnce) {
+  Lege({20.0, 30.0}, {60.0, 30.0});
+  Lege({20.0, 34.0005}, {80.0, 34.0005});
+  Lege({20.0, 38.0025}, {80.0, 38.0025});
+  ErwarteStaebe({{{20.0, 28.0}, {60.0, 28.0}},
+                 {{20.0, 32.0}, {60.0, 32.0}},
+                 {{60.0, 32.0005}, {80.0, 32.0005}},
+                 {{20.0, 36.0005}, {80.0, 36.0005}},
+                 {{20.0, 36.0025}, {80.0, 36.0025}},
+                 {{20.0, 40.0025}, {80.0, 40.0025}}});
+}
+
+// Slats of 6 behind gaps of 1 in a clear height of 20: two whole ones at 1 to 7 and
+// 8 to 14, and one of 6 at 15 to 21, whose top the sash's frame covers.
+TEST(Ansicht, SashFrameCoversSlatsThatReachUnderIt) {
+  CMFenster fenster = Raster(1, 1, 100.0, 20.0 + 2 * 13.3);
+  CMFensterSatz& fluegel = *fenster.GetFluegelPtr(0L);
+  fluegel.Fuellung.SetLamellen(6.0, 1.0);
+  fluegel.Fuellung.D1 = 1.0;
+  ASSERT_TRUE(fenster.Berechne(false));
+  const std::vector<Strecke> bild = Bild(fenster, false);
+  EXPECT_EQ(bild.size(), 12u + 5u);
+  for (const double y : {1.0, 7.0, 8.0, 14.0, 15.0}) {
+    EXPECT_TRUE(Enthaelt(bild, {{13.3, 13.3 + y}, {86.7, 13.3 + y}})) << y;
+  }
 }
 
 // A pane set straight into the frame has its contour in common with it.

@@ -178,6 +178,45 @@ TEST(Zusatzmasz, BetweenCornerPointsMovesTheFrameCorner) {
   ErwarteFehler(fenster, 24, "Schräge");
 }
 
+TEST(Zusatzmasz, TheSizeFollowsCornersThatMoveInwards) {
+  CMFenster fenster = Raster(1, 1, 100.0, 80.0);
+  for (const double x : {0.0, 100.0}) {
+    CMKnoten corner;
+    corner.SetEckpu(0, 0, x, 80.0);
+    CMZusatzMasz masz;
+    masz.SetVertikal(CMKnoten(0, 0), corner);
+    masz.dLaenge = 60.0;
+    fenster.AddZusatzMasz(masz);
+  }
+  ASSERT_TRUE(fenster.Berechne(false));
+  XY size;
+  fenster.GetSize(size);
+  EXPECT_NEAR(size.y, 60.0, 1e-9);
+}
+
+TEST(Zusatzmasz, AfterAFailureEverythingStillFollowsTheAxes) {
+  CMFenster fenster = Raster(2, 1, 50.0, 80.0);
+  fenster.AddRahmenEinzelBauteil(CMKnoten(1, 0), CMKnoten(1, 1), CMBauteil());
+  CMKnoten corner;
+  corner.SetEckpu(2, 1, 100.0, 80.0);
+  CMZusatzMasz masz = Masz("Schräge", false, 0, 1, 90.0);
+  masz.kKnoten2 = corner;
+  fenster.AddZusatzMasz(masz);
+  ASSERT_TRUE(fenster.Berechne(false));
+  // The width is set twice: axes move before the second one fails.
+  fenster.AddZusatzMasz(Masz("Breite", true, 0, 2, 160.0));
+  fenster.AddZusatzMasz(Masz("Nochmals", true, 0, 2, 100.0));
+  EXPECT_FALSE(fenster.Berechne(false));
+  ErwarteFehler(fenster, 24, "Nochmals");
+  fenster.DeleteZusatzMasz(2);
+  ASSERT_TRUE(fenster.Berechne(false));
+  XY a;
+  XY b;
+  ASSERT_TRUE(fenster.GetRahmenEinzelBauteilPtr(0)->GetAchspunkte(a, b));
+  EXPECT_NEAR(a.x, 80.0, 1e-9);
+  EXPECT_NEAR(fenster.GetZusatzMaszPtr(0)->kKnoten2.X(), 160.0, 1e-9);
+}
+
 TEST(Zusatzmasz, OnlyOneShiftOfACornerAtATime) {
   CMFenster fenster = Raster(1, 1, 100.0, 80.0);
   ASSERT_TRUE(fenster.Berechne(false));

@@ -40,6 +40,13 @@ TEST(Pfosten, TwoSashesGiveOneMullionBetweenTheInnerFrameEdges) {
   const CMBauteil& pfosten = *fenster.GetRahmenEinzelBauteilPtr(0);
   EXPECT_EQ(pfosten.kAnfang.J(), 1);
   EXPECT_EQ(pfosten.kEnde.K(), 1);
+  // Wherever the grid's first axes lie.
+  CMFenster links = Raster(2, 1, 50.0, 100.0);
+  links.GetPfostenVorlage() = Vorlage();
+  links.GetAchsen().SetAchsAbstX(0, -200.0);
+  links.GetAchsen().SetAchsAbstY(0, -200.0);
+  ASSERT_TRUE(links.Berechne(true));
+  ErwarteAchse(links, 0, {-150.0, -193.0}, {-150.0, -107.0});
   // Without the automatic none is made.
   CMFenster ohne = Raster(2, 1, 50.0, 100.0);
   ASSERT_TRUE(ohne.Berechne(false));
@@ -72,6 +79,47 @@ TEST(Pfosten, WhereEndsLieInEachOtherTheEarlierRunsThrough) {
   ASSERT_TRUE(fenster.Berechne(false));
   ErwarteAchse(fenster, 0, {50.0, 50.0}, {50.0, 7.0});
   ErwarteAchse(fenster, 1, {7.0, 50.0}, {46.0, 50.0});
+}
+
+TEST(Pfosten, AutomaticOnesKeepOffThoseThatAreThere) {
+  // A mullion in the lower row alone: the transom and the upper half are missing.
+  CMFenster fenster = Raster(2, 2, 50.0, 50.0);
+  fenster.GetPfostenVorlage() = Vorlage();
+  fenster.AddRahmenEinzelBauteil(CMKnoten(1, 0), CMKnoten(1, 1), Vorlage());
+  ASSERT_TRUE(fenster.Berechne(true));
+  EXPECT_EQ(fenster.GetRahmenPtr()->EinzelTeile.size(), 3u);
+  // Every edge has its member already.
+  CMFenster raster = Beispiel("raster_3x3.aqz");
+  const std::vector<GEOM2_Polygon> before = Umrisse(raster);
+  ASSERT_TRUE(raster.Berechne(true));
+  const std::vector<GEOM2_Polygon> after = Umrisse(raster);
+  ASSERT_EQ(after.size(), before.size());
+  for (std::size_t n = 0; n < after.size(); ++n) {
+    EXPECT_TRUE(GleichePunkte(after[n], before[n], 0.0)) << "outline " << n;
+  }
+}
+
+TEST(Pfosten, AGroupOutsideTheFrameGetsNone) {
+  CMFenster fenster = Raster(4, 1, 50.0, 100.0);
+  fenster.DeleteFluegel(2);
+  fenster.GetPfostenVorlage() = Vorlage();
+  ASSERT_TRUE(fenster.Berechne(true));
+  // Between the two sashes on the left; the frame leaves out the one on the right.
+  ASSERT_EQ(fenster.GetRahmenPtr()->EinzelTeile.size(), 1u);
+  ErwarteAchse(fenster, 0, {50.0, 7.0}, {50.0, 93.0});
+}
+
+TEST(Pfosten, BarsPiledOnEachOtherComeToRestInOneCalculation) {
+  CMFenster fenster = Raster(3, 2, 50.0, 50.0);
+  fenster.AddRahmenEinzelBauteil(CMKnoten(1, 0), CMKnoten(1, 2), Vorlage());
+  fenster.AddRahmenEinzelBauteil(CMKnoten(0, 1), CMKnoten(1, 1), Vorlage());
+  fenster.AddRahmenEinzelBauteil(CMKnoten(0, 1), CMKnoten(3, 1), Vorlage());
+  for (int run = 0; run < 2; ++run) {
+    ASSERT_TRUE(fenster.Berechne(false));
+    ErwarteAchse(fenster, 1, {7.0, 50.0}, {46.0, 50.0});
+    // It gives way to the earlier transom, and then to the mullion behind that.
+    ErwarteAchse(fenster, 2, {54.0, 50.0}, {143.0, 50.0});
+  }
 }
 
 TEST(Pfosten, FollowTheirNodesWhenADimensionMovesAnAxis) {

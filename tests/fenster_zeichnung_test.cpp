@@ -184,5 +184,26 @@ TEST(Box, IsWidenedByTheExtensionLines) {
   ErwarteBox(box, -23.0, -23.0, 100.0, 80.0);
 }
 
+TEST(Oeffnungssymbol, IsThatOfTheSash) {
+  CMFenster fenster = Raster(2, 1, 100.0, 80.0);
+  ASSERT_TRUE(fenster.Berechne(false));
+  fenster.GetFluegelPtr(1L)->lGangart = static_cast<int>(CMFensterSatz::GetGangArtIndex("Dr"));
+  std::vector<CMStrecke> lines;
+  EXPECT_FALSE(fenster.GetFluegelOeffnungsSymbol(-1, lines));
+  EXPECT_FALSE(fenster.GetFluegelOeffnungsSymbol(2, lines));
+  EXPECT_TRUE(lines.empty());
+  std::vector<CMStrecke> eigene;
+  ASSERT_TRUE(fenster.GetFluegelPtr(1L)->GetOeffSymbol(eigene));
+  ASSERT_TRUE(fenster.GetFluegelOeffnungsSymbol(1, lines));
+  ASSERT_EQ(lines.size(), eigene.size());
+  XY a;
+  XY b;
+  eigene[0].GetPunkte(a, b);
+  EXPECT_TRUE(Laeuft(lines[0], a, b));
+  // Only glass shows how the sash opens.
+  fenster.GetFluegelPtr(1L)->Fuellung.SetKonstant(2.0);
+  EXPECT_FALSE(fenster.GetFluegelOeffnungsSymbol(1, lines));
+}
+
 }  // namespace
 }  // namespace lintavo::test

@@ -291,4 +291,30 @@ TEST(Stichanpassung, DimensionSetsTheRiseOnce) {
   }
 }
 
+TEST(Stichanpassung, AnEndOnAnAxisMovesWithTheSpringingLine) {
+  CMFenster fenster;
+  for (const double d : {0.0, 160.0}) fenster.GetAchsen().AddVerti(d);
+  for (const double d : {0.0, 60.0, 80.0}) fenster.GetAchsen().AddHori(d);
+  CMFensterSatz* bogen = fenster.AddFluegel(eFormBogen, 0, {0, 0}, {1, 2});
+  bogen->dStich = 80.0;
+  CMKnoten fusz;
+  fusz.SetEckpu(0, 0, 0.0, 0.0);
+  CMZusatzMasz masz;
+  masz.SetVertikal(fusz, CMKnoten(0, 1));
+  masz.dLaenge = 90.0;
+  fenster.AddZusatzMasz(masz);
+  // The frame's corners stay: the dimension has its length on the arch alone,
+  // also after the window was stored and read again.
+  for (const bool neuLaden : {false, false, true}) {
+    fenster.Invalidiere(neuLaden);
+    ASSERT_TRUE(fenster.Berechne(false));
+    EXPECT_NEAR(fenster.GetFluegelPtr(0L)->dStich, 50.0, 1e-9);
+    XY low;
+    XY high;
+    fenster.GetRahmenPtr()->RahmenPolygon.GetMinMax(low, high);
+    EXPECT_NEAR(low.y, 0.0, 1e-9);
+    EXPECT_NEAR(high.y, 140.0, 1e-9);
+  }
+}
+
 }  // namespace lintavo::test

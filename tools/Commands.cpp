@@ -5,11 +5,12 @@
 #include "lintavo/drawing/Scene.h"
 #include "lintavo/drawing/Text.h"
 
-#include "Numbers.h"
 #include "WindowFile.h"
 #include "WindowReport.h"
 
 namespace lintavo::tools {
+
+using drawing::LengthText;
 
 void ShowCommand(const std::string& file, std::ostream& out) {
   CFeApi window;
@@ -29,12 +30,13 @@ void FitCommand(const std::string& file, const OpeningSize& opening, const std::
 }
 
 void DrawCommand(const std::string& file, const std::optional<OpeningSize>& opening,
-                 const std::string& picture, drawing::PictureFormat format) {
+                 const drawing::SceneOptions& options, const std::string& picture,
+                 drawing::PictureFormat format) {
   CFeApi window;
   LoadWindow(file, window);
   if (opening) FitWindow(file, opening->width, opening->height, window);
   const drawing::PictureStatus status =
-      drawing::WritePicture(drawing::BuildScene(window), format, picture);
+      drawing::WritePicture(drawing::BuildScene(window, options), format, picture);
   if (status == drawing::PictureStatus::kOk) return;
   const bool atTarget = status == drawing::PictureStatus::kNotWritten;
   throw CommandError(drawing::ToDisplayText(atTarget ? picture : file) + ": " +

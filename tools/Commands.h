@@ -24,6 +24,7 @@ void FitCommand(const std::string& file, const OpeningSize& opening, const std::
 
 /// Draws the window, fitted into `opening` first when there is one.
 void DrawCommand(const std::string& file, const std::optional<OpeningSize>& opening,
-                 const std::string& picture, drawing::PictureFormat format);
+                 const drawing::SceneOptions& options, const std::string& picture,
+                 drawing::PictureFormat format);
 
 }  // namespace lintavo::tools

@@ -1,4 +1,4 @@
-// Numbers on the command line and in tables, the same under every locale.
+// Numbers on the command line, the same under every locale.
 #include "Numbers.h"
 
 #include <charconv>
@@ -6,31 +6,6 @@
 #include <system_error>
 
 namespace lintavo::tools {
-namespace {
-
-constexpr double kLargestPlain = 1e15;
-constexpr int kDecimals = 3;
-
-std::string WithoutTrailingZeros(std::string text) {
-  if (text.find('.') == std::string::npos) return text;
-  text.erase(text.find_last_not_of('0') + 1);
-  if (text.back() == '.') text.pop_back();
-  return text == "-0" ? "0" : text;
-}
-
-}  // namespace
-
-std::string LengthText(double length) {
-  char buffer[64];
-  if (!(std::abs(length) < kLargestPlain)) {
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, length).ptr;
-    return std::string(buffer, end);
-  }
-  const auto end =
-      std::to_chars(buffer, buffer + sizeof buffer, length, std::chars_format::fixed, kDecimals)
-          .ptr;
-  return WithoutTrailingZeros(std::string(buffer, end));
-}
 
 bool ParseLength(std::string_view text, double& length) {
   double value = 0.0;

@@ -5,12 +5,12 @@
 
 #include "lintavo/drawing/Text.h"
 
-#include "Numbers.h"
 #include "Table.h"
 
 namespace lintavo::tools {
 namespace {
 
+using drawing::LengthText;
 using drawing::ToDisplayText;
 
 std::string WindowName(const CFeApi& window) {

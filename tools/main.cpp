@@ -29,6 +29,11 @@ struct Arguments {
   std::string height;
   std::string size;
   std::string target;
+  bool inside = false;
+  bool outside = false;
+  bool noDimensions = false;
+  bool noSymbols = false;
+  bool hiddenLine = false;
 };
 
 std::string CheckLength(const std::string& text) {
@@ -79,6 +84,29 @@ void AddFit(CLI::App& app, Arguments& arguments) {
   });
 }
 
+void AddSceneOptions(CLI::App& command, Arguments& arguments) {
+  CLI::Option* inside = command.add_flag("--inside", arguments.inside,
+                                         "Draw the window as seen from inside (default)");
+  command
+      .add_flag("--outside", arguments.outside,
+                "Draw the window as seen from outside, not mirrored")
+      ->excludes(inside);
+  command.add_flag("--no-dims", arguments.noDimensions, "Leave out the dimensions");
+  command.add_flag("--no-symbols", arguments.noSymbols, "Leave out the opening symbols");
+  command.add_flag("--hidden-line", arguments.hiddenLine,
+                   "Draw visible edges only, nothing filled");
+}
+
+lintavo::drawing::SceneOptions ToSceneOptions(const Arguments& arguments) {
+  using lintavo::drawing::ViewSide;
+  lintavo::drawing::SceneOptions options;
+  options.side = arguments.outside ? ViewSide::kOutside : ViewSide::kInside;
+  options.dimensions = !arguments.noDimensions;
+  options.symbols = !arguments.noSymbols;
+  options.hiddenLine = arguments.hiddenLine;
+  return options;
+}
+
 void AddDraw(CLI::App& app, Arguments& arguments) {
   CLI::App* command = app.add_subcommand("draw", "Draw the window");
   command->add_option("file", arguments.file, "Macro file (aqz or cqz)")->required();
@@ -87,6 +115,7 @@ void AddDraw(CLI::App& app, Arguments& arguments) {
       ->check(CheckPicture);
   command->add_option("--fit", arguments.size, "Fit into an opening first: WIDTHxHEIGHT")
       ->check(CheckSize);
+  AddSceneOptions(*command, arguments);
   command->callback([&arguments] {
     std::optional<OpeningSize> opening;
     if (!arguments.size.empty()) {
@@ -95,7 +124,7 @@ void AddDraw(CLI::App& app, Arguments& arguments) {
     }
     lintavo::drawing::PictureFormat format{};
     lintavo::drawing::FormatFromPath(arguments.target, format);
-    DrawCommand(arguments.file, opening, arguments.target, format);
+    DrawCommand(arguments.file, opening, ToSceneOptions(arguments), arguments.target, format);
   });
 }
 

@@ -1,18 +1,20 @@
 // The façade's queries and setters: check, look up, read or store.
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 #include <utility>
 #include <vector>
 
 #include "lintavo/api/CFeApi.h"
+#include "lintavo/api/Masz_intern.h"
 #include "lintavo/api/Records_intern.h"
 #include "lintavo/api/Schutz_intern.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/model/CMFenster.h"
 
 using lintavo::Geschuetzt;
+using lintavo::IstMasz;
 using lintavo::KopiereText;
+using lintavo::SetzeLaenge;
 
 namespace {
 
@@ -89,16 +91,6 @@ const CMBauteil* ErstesRahmenteil(const CMFensterSatz* satz) {
 void SetzeRahmenMasz(CMFensterSatz& satz, double CMBauteil::*masz, double value) {
   satz.RahmenVorlage.*masz = value;
   for (CMBauteil& bauteil : satz.RahmenTeile) bauteil.*masz = value;
-}
-
-bool IstMasz(double value) {
-  return value >= lintavo::kNullLaenge && std::isfinite(value);
-}
-
-// A new length takes over the sign of the stored one, which tells the side that
-// the dimension is counted to.
-void SetzeLaenge(CMZusatzMasz& masz, double length) {
-  masz.dLaenge = masz.dLaenge < 0.0 ? -length : length;
 }
 
 long LeererText(char (&text)[256]) {
@@ -317,7 +309,7 @@ int CFeApi::SetSprossenDicke(long i, long j, double thickness) {
 }
 
 int CFeApi::SetzeRahmen(CMFensterSatz* satz, double CMBauteil::*masz, double value) {
-  if (!satz || !IstMasz(value)) return 0;
+  if (!satz || !lintavo::IstMasz(value)) return 0;
   SetzeRahmenMasz(*satz, masz, value);
   // Mullions are laid anew: they end at a frame of another width now.
   pFenster_->Invalidiere();
@@ -327,7 +319,7 @@ int CFeApi::SetzeRahmen(CMFensterSatz* satz, double CMBauteil::*masz, double val
 int CFeApi::SetzeSprosse(long i, long j, double CMBauteil::*masz, double value) {
   CMFensterSatz* fluegel = Fluegel(i);
   CMBauteil* sprosse = fluegel ? VorhandenesBauteil(fluegel->Sprossen, j) : nullptr;
-  if (!sprosse || !IstMasz(value)) return 0;
+  if (!sprosse || !lintavo::IstMasz(value)) return 0;
   sprosse->*masz = value;
   return 1;
 }
@@ -354,17 +346,17 @@ double CFeApi::GetZMaszLaenge(long i) const {
 
 int CFeApi::SetZMaszLaenge(long i, double length) {
   CMZusatzMasz* masz = ZusatzMasz(i);
-  if (!masz || !IstMasz(length)) return 0;
-  SetzeLaenge(*masz, length);
+  if (!masz || !lintavo::IstMasz(length)) return 0;
+  lintavo::SetzeLaenge(*masz, length);
   return 1;
 }
 
 int CFeApi::SetZMaszLaengeMitName(long i, double length) {
   const CMZusatzMasz* masz = ZusatzMasz(i);
-  if (!masz || !IstMasz(length)) return 0;
+  if (!masz || !lintavo::IstMasz(length)) return 0;
   for (long n = 0; n < GetAnzahlZusatzMasze(); ++n) {
     CMZusatzMasz& other = *ZusatzMasz(n);
-    if (other.strName.CompareNoCase(masz->strName) == 0) SetzeLaenge(other, length);
+    if (other.strName.CompareNoCase(masz->strName) == 0) lintavo::SetzeLaenge(other, length);
   }
   return 1;
 }

@@ -3,24 +3,21 @@
 #include <vector>
 
 #include "lintavo/api/CFeApi.h"
+#include "lintavo/api/Masz_intern.h"
 #include "lintavo/api/Records_intern.h"
 #include "lintavo/api/Schutz_intern.h"
 #include "lintavo/geom/Toleranzen.h"
+#include "lintavo/model/Achsbereich_intern.h"
 #include "lintavo/model/CMFenster.h"
 
 using lintavo::Geschuetzt;
+using lintavo::IstMasz;
+using lintavo::SetzeLaenge;
 using Parameter = CFeApiWandOeffnungsParameter;
 
 namespace {
 
 constexpr int kMitSchraege = 1;
-
-// Presets of the search for the axes in use.
-constexpr long kKleinsterIndexStart = 30000;
-
-bool IstMasz(double value) {
-  return value >= lintavo::kNullLaenge && std::isfinite(value);
-}
 
 bool IstNull(double value) {
   return std::fabs(value) < lintavo::kNullLaenge;
@@ -91,12 +88,14 @@ bool RahmenUndOeffnung(const CMFenster& fenster, const Parameter& param, GEOM2_P
   return rahmen.ParallelPolygon(abstaende.data(), oeffnung, true);
 }
 
-void SetzeLaenge(CMZusatzMasz& masz, double length) {
-  masz.dLaenge = masz.dLaenge < 0.0 ? -length : length;
-}
-
 bool LiegtAuf(int a, int b, long i, long k) {
   return (a == i && b == k) || (a == k && b == i);
+}
+
+// A dimension that can drive the overall size. One between corner points moves
+// corners, whatever axes these belong to.
+bool IstVonAchseZuAchse(const CMZusatzMasz& masz) {
+  return masz.IsEinseitig() && masz.kKnoten1.IsAufAchse() && masz.kKnoten2.IsAufAchse();
 }
 
 }  // namespace
@@ -119,18 +118,14 @@ int CFeApi::IsZMaszBreiteHoehe(long& h, long& v) const {
   h = -1;
   v = -1;
   if (!pFenster_) return 0;
-  long minJ = kKleinsterIndexStart;
-  long maxJ = 0;
-  long minK = kKleinsterIndexStart;
-  long maxK = 0;
-  pFenster_->GetMinMaxAchsIndizes(minJ, maxJ, minK, maxK);
+  const lintavo::Achsbereich benutzt = lintavo::BenutzteAchsen(*pFenster_);
   for (long i = 0; i < GetAnzahlZusatzMasze(); ++i) {
     const CMZusatzMasz& masz = *ZusatzMasz(i);
-    if (!masz.IsEinseitig()) continue;
+    if (!IstVonAchseZuAchse(masz)) continue;
     const CMKnoten& k1 = masz.kKnoten1;
     const CMKnoten& k2 = masz.kKnoten2;
-    if (h < 0 && masz.IsHorizonal() && LiegtAuf(k1.J(), k2.J(), minJ, maxJ)) h = i;
-    if (v < 0 && masz.IsVertikal() && LiegtAuf(k1.K(), k2.K(), minK, maxK)) v = i;
+    if (h < 0 && masz.IsHorizonal() && LiegtAuf(k1.J(), k2.J(), benutzt.minJ, benutzt.maxJ)) h = i;
+    if (v < 0 && masz.IsVertikal() && LiegtAuf(k1.K(), k2.K(), benutzt.minK, benutzt.maxK)) v = i;
   }
   return h >= 0 && v >= 0 ? 1 : 0;
 }
@@ -181,9 +176,9 @@ int CFeApi::SetBreiteHoehe(const Parameter& param, double width, double height) 
       margins[1] = (low.y - rahmenLow.y) + (rahmenHigh.y - high.y);
     }
     const double length[2] = {width + margins[0], height + margins[1]};
-    if (!IstMasz(length[0]) || !IstMasz(length[1])) return 0;
-    SetzeLaenge(*ZusatzMasz(h), length[0]);
-    SetzeLaenge(*ZusatzMasz(v), length[1]);
+    if (!lintavo::IstMasz(length[0]) || !lintavo::IstMasz(length[1])) return 0;
+    lintavo::SetzeLaenge(*ZusatzMasz(h), length[0]);
+    lintavo::SetzeLaenge(*ZusatzMasz(v), length[1]);
     return 1;
   });
 }

@@ -30,7 +30,9 @@ CMBeschlag* BeschlagVon(CMFensterSatz* fluegel, long j) {
   return fluegel ? fluegel->GetBeschlagPtr(j) : nullptr;
 }
 
-int AlsErgebnis(bool ok) { return ok ? 1 : 0; }
+int AlsErgebnis(bool ok) {
+  return ok ? 1 : 0;
+}
 
 }  // namespace
 
@@ -157,9 +159,8 @@ long CFeApi::GetFluegelOeffSeite(long i, char (&text)[256]) const {
 long CFeApi::KurzText(long i, char (&text)[256], int CMFensterSatz::*index,
                       CString (*kurzText)(long)) const {
   const CMFensterSatz* fluegel = Fluegel(i);
-  return Geschuetzt(0L, [&] {
-    return KopiereText(fluegel ? kurzText(fluegel->*index) : CString(), text);
-  });
+  return Geschuetzt(
+      0L, [&] { return KopiereText(fluegel ? kurzText(fluegel->*index) : CString(), text); });
 }
 
 int CFeApi::GetFluegelFuellungUmriss(long i, CFeApiPolygon& umriss) const {

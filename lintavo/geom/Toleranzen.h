@@ -15,6 +15,8 @@ inline constexpr double kNullLaenge = 1e-6;
 inline constexpr double kNullFlaeche = 1e-6;
 /// Strict inside test of a segment's midpoint.
 inline constexpr double kInnenTest = 1e-5;
+/// How far beside an edge its two sides are looked at when surfaces may cover it.
+inline constexpr double kNebenKante = kInnenTest;
 /// Shift of a single side when extra parts are placed beside it.
 inline constexpr double kSeitenVerschiebung = 1e-5;
 /// Collinearity and overlap of segments and sides. A thousand times coarser than

@@ -8,6 +8,7 @@
 #include "lintavo/geom/Seitendeckung.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/ini/CIniFile.h"
+#include "lintavo/platform/Elements_intern.h"
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/CMFensterSatzBogen.h"
 #include "lintavo/sash/CMFensterSatzEllipse.h"
@@ -32,12 +33,6 @@ FluegelListe Copy(const FluegelListe& source) {
     *copy.back() = *fluegel;
   }
   return copy;
-}
-
-template <class Liste>
-auto ElementPtr(Liste& liste, long i) -> decltype(liste.data()) {
-  if (i < 0 || static_cast<std::size_t>(i) >= liste.size()) return nullptr;
-  return &liste[static_cast<std::size_t>(i)];
 }
 
 // The outline of a sash on the grid.
@@ -193,12 +188,12 @@ CMFensterSatz* CMFenster::AddFluegel(long lForm, long lTyp2, const CMKnoten& k1,
 }
 
 CMFensterSatz* CMFenster::GetFluegelPtr(long i) {
-  const auto* fluegel = ElementPtr(fluegel_, i);
+  const auto* fluegel = lintavo::ElementPtr(fluegel_, i);
   return fluegel ? fluegel->get() : nullptr;
 }
 
 const CMFensterSatz* CMFenster::GetFluegelPtr(long i) const {
-  const auto* fluegel = ElementPtr(fluegel_, i);
+  const auto* fluegel = lintavo::ElementPtr(fluegel_, i);
   return fluegel ? fluegel->get() : nullptr;
 }
 
@@ -244,11 +239,11 @@ long CMFenster::AddZusatzMasz(const CMZusatzMasz& masz) {
 }
 
 CMZusatzMasz* CMFenster::GetZusatzMaszPtr(long i) {
-  return ElementPtr(zusatzMasze_, i);
+  return lintavo::ElementPtr(zusatzMasze_, i);
 }
 
 const CMZusatzMasz* CMFenster::GetZusatzMaszPtr(long i) const {
-  return ElementPtr(zusatzMasze_, i);
+  return lintavo::ElementPtr(zusatzMasze_, i);
 }
 
 long CMFenster::GetZusatzMaszNr(const CMZusatzMasz* masz) const {

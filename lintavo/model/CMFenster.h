@@ -202,8 +202,10 @@ class LINTAVO_API CMFenster {
   /// and "Hoehe", with their lines at distance `dAbstand`. Returns false on
   /// success, on purpose: callers do not test it. Throws 24.
   bool ZusatzMaszeFuerBreiteUndHoeheAutomatisch(double dAbstand);
+  /// Start value of the minima in the search below.
+  static constexpr long kKleinsterIndexStart = 30000;
   /// Widens the given range by the axes that the sashes' nodes use. Callers
-  /// preset the minima with 30000 and the maxima with 0.
+  /// preset the minima with `kKleinsterIndexStart` and the maxima with 0.
   void GetMinMaxAchsIndizes(long& minJ, long& maxJ, long& minK, long& maxK) const;
 
   // --- size ------------------------------------------------------------------
@@ -242,6 +244,9 @@ class LINTAVO_API CMFenster {
   /// The same for a given dimension line.
   static bool GetMaszBegrenzung(const CMStrecke& s, double dPfeilLaenge, double dPfeilBreite,
                                 GEOM2_Polygon& p1, GEOM2_Polygon& p2);
+  /// Appends the opening symbol of sash `i`. False when there is no such sash or it
+  /// has no symbol.
+  bool GetFluegelOeffnungsSymbol(long i, std::vector<CMStrecke>& lines) const;
   /// The front view of the calculated window, hidden lines removed: frame, mullions
   /// and transoms, extra parts, and of each sash its frame, bars, slats and filling.
   ///
@@ -282,9 +287,13 @@ class LINTAVO_API CMFenster {
   };
 
   bool SaveParameterBlankoFormularToBuffer(CIniFile& document) const;
+  void KnotenIndizesSenken(long dj, long dk);
   void FluegelFormBeiwerteAnpassen(bool bVerti, long i1, long i2, const CMAchsen& before);
+  CMZusatzMasz* AchsenNachMaszenSetzen();
   bool AchsenNachMaszSetzen(const CMZusatzMasz& masz);
+  void AchsenNachfuehren(const CMAchsen& before);
   void EckpunktKnotenNachfuehren(const CMAchsen& before);
+  void BoxBilden(const std::vector<GEOM2_Polygon>& grundformen);
   bool EckenNachMaszSetzen(const CMZusatzMasz& masz, const GEOM2_Polygon& before,
                            std::vector<GEOM2_Polygon>& grundformen);
   void Rechne(bool bPfostenRiegelAutomatisch);

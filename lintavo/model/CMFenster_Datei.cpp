@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "lintavo/ini/CIniFile.h"
+#include "lintavo/model/Achsbereich_intern.h"
 #include "lintavo/model/CMFenster.h"
 #include "lintavo/platform/Numbers_intern.h"
 #include "lintavo/resources/StringTable.h"
@@ -263,36 +264,17 @@ void CMFenster::AchsRasterOptimieren() {
   // Without a sash no axis is in use, and there is nothing to gain by dropping
   // them all.
   if (fluegel_.empty() || lastJ < 0 || lastK < 0) return;
-  long minJ = 30000;
-  long maxJ = 0;
-  long minK = 30000;
-  long maxK = 0;
-  GetMinMaxAchsIndizes(minJ, maxJ, minK, maxK);
   // An index past the last axis means that axis, one before the first means 0.
-  minJ = std::clamp(minJ, 0L, lastJ);
-  maxJ = std::clamp(maxJ, 0L, lastJ);
-  minK = std::clamp(minK, 0L, lastK);
-  maxK = std::clamp(maxK, 0L, lastK);
+  const lintavo::Achsbereich benutzt = lintavo::BenutzteAchsen(*this);
+  const long minJ = std::clamp(benutzt.minJ, 0L, lastJ);
+  const long maxJ = std::clamp(benutzt.maxJ, 0L, lastJ);
+  const long minK = std::clamp(benutzt.minK, 0L, lastK);
+  const long maxK = std::clamp(benutzt.maxK, 0L, lastK);
 
-  if (minJ >= 1 || minK >= 1) {
-    for (const auto& fluegel : fluegel_) {
-      for (CMKnoten* knoten :
-           {&fluegel->Knoten1, &fluegel->Knoten2, &fluegel->KnotenAL, &fluegel->KnotenAR}) {
-        *knoten = ShiftedToAxes(*knoten, minJ, minK);
-      }
-    }
-    for (CMZusatzMasz& masz : zusatzMasze_) {
-      masz.kKnoten1 = Shifted(masz.kKnoten1, minJ, minK);
-      masz.kKnoten2 = Shifted(masz.kKnoten2, minJ, minK);
-      if (masz.IsZentrisch()) masz.kKnoten3 = Shifted(masz.kKnoten3, minJ, minK);
-    }
-    for (CMBauteil& bauteil : rahmen_.EinzelTeile) {
-      if (!bauteil.IsRahmenteil()) continue;
-      bauteil.kAnfang = Shifted(bauteil.kAnfang, minJ, minK);
-      bauteil.kEnde = Shifted(bauteil.kEnde, minJ, minK);
-    }
-    Invalidiere();
-  }
+  if (minJ >= 1 || minK >= 1) KnotenIndizesSenken(minJ, minK);
+  XY first;
+  achsen_.GetPunkt(static_cast<int>(minJ), static_cast<int>(minK), first);
+  const bool moves = std::fabs(first.x) > 0.0 || std::fabs(first.y) > 0.0;
 
   CMAchsen compact;
   compact.AddVerti(0.0);
@@ -304,4 +286,26 @@ void CMFenster::AchsRasterOptimieren() {
     compact.AddHori(achsen_.dGetAchsAbstY(static_cast<int>(k) + 1));
   }
   achsen_ = compact;
+  // Mullions lie where the grid was.
+  if (moves) Invalidiere();
+}
+
+// Lets every node of the window name axes of a grid that has lost its first ones.
+void CMFenster::KnotenIndizesSenken(long dj, long dk) {
+  for (const auto& fluegel : fluegel_) {
+    for (CMKnoten* knoten :
+         {&fluegel->Knoten1, &fluegel->Knoten2, &fluegel->KnotenAL, &fluegel->KnotenAR}) {
+      *knoten = ShiftedToAxes(*knoten, dj, dk);
+    }
+  }
+  for (CMZusatzMasz& masz : zusatzMasze_) {
+    masz.kKnoten1 = Shifted(masz.kKnoten1, dj, dk);
+    masz.kKnoten2 = Shifted(masz.kKnoten2, dj, dk);
+    if (masz.IsZentrisch()) masz.kKnoten3 = Shifted(masz.kKnoten3, dj, dk);
+  }
+  for (CMBauteil& bauteil : rahmen_.EinzelTeile) {
+    if (!bauteil.IsRahmenteil()) continue;
+    bauteil.kAnfang = Shifted(bauteil.kAnfang, dj, dk);
+    bauteil.kEnde = Shifted(bauteil.kEnde, dj, dk);
+  }
 }

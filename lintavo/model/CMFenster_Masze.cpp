@@ -5,6 +5,7 @@
 
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
+#include "lintavo/model/Achsbereich_intern.h"
 #include "lintavo/model/CMFenster.h"
 #include "lintavo/resources/StringTable.h"
 
@@ -18,9 +19,6 @@ constexpr double kRechenrauschen = 1e-9;
 
 // A corner point belongs to a frame corner at most this far away.
 constexpr double kFangRadius = 0.1;
-
-// Starts the search for the smallest axis index in use.
-constexpr long kKleinsterIndexStart = 30000;
 
 constexpr const char* kNurEineVerschiebung =
     "(RahmenEckpunktVerschieben) Es ist nur eine Verschiebung zulassig !";
@@ -114,16 +112,12 @@ class Bewegungen {
       for (std::size_t n = 0; n < now.size(); ++n) {
         if (now[n] == positions_[bVerti][n]) continue;  // any movement counts
         setter_[bVerti][n] = i;
-        moved_ = true;
       }
       positions_[bVerti] = now;
     }
     NoteEnd(masz, masz.kKnoten2, i);
     if (masz.IsZentrisch()) NoteEnd(masz, masz.kKnoten3, i);
   }
-
-  /// Whether any axis moved.
-  bool Any() const { return moved_; }
 
   /// Of the axes in use, the last dimension that moved or set one end of an
   /// interval which now runs backwards; -1 when all are in order.
@@ -158,7 +152,6 @@ class Bewegungen {
   // Index 0: horizontal axes, 1: vertical axes.
   std::vector<double> positions_[2];
   std::vector<long> setter_[2];
-  bool moved_ = false;
 };
 
 BenutzteAchsen AxesInUse(const CMFenster& fenster) {
@@ -307,6 +300,20 @@ void CMFenster::FluegelFormBeiwerteAnpassen(bool bVerti, long i1, long i2, const
 CMZusatzMasz* CMFenster::ZusatzMaszAchsVerschiebungen() {
   if (zusatzMasze_.empty()) return nullptr;
   const CMAchsen before = achsen_;
+  // Whatever hangs on the axes follows them when a dimension fails too: the
+  // axes keep what the ones before it did.
+  try {
+    CMZusatzMasz* failed = AchsenNachMaszenSetzen();
+    AchsenNachfuehren(before);
+    return failed;
+  } catch (const CMException&) {
+    AchsenNachfuehren(before);
+    throw;
+  }
+}
+
+// Gives the axes of all dimensions their spans; the first that fails, or null.
+CMZusatzMasz* CMFenster::AchsenNachMaszenSetzen() {
   Bewegungen bewegungen(achsen_);
   for (long i = 0; i < GetAnzahlZusatzMasze(); ++i) {
     CMZusatzMasz* masz = GetZusatzMaszPtr(i);
@@ -317,11 +324,17 @@ CMZusatzMasz* CMFenster::ZusatzMaszAchsVerschiebungen() {
   if (const CMZusatzMasz* masz = GetZusatzMaszPtr(wrong)) {
     throw CMException(static_cast<int>(StringId::MeldungZusatzmaszLaenge), masz->strName);
   }
-  if (bewegungen.Any()) {
-    Invalidiere();
-    EckpunktKnotenNachfuehren(before);
-  }
   return nullptr;
+}
+
+// Lets mullions, transoms and corner points follow axes that have moved.
+void CMFenster::AchsenNachfuehren(const CMAchsen& before) {
+  if (Positions(achsen_, false) == Positions(before, false) &&
+      Positions(achsen_, true) == Positions(before, true)) {
+    return;
+  }
+  Invalidiere();
+  EckpunktKnotenNachfuehren(before);
 }
 
 // Gives the axes of one dimension their spans. Dimensions without a length,
@@ -409,25 +422,34 @@ void CMFenster::RahmenEckpunktVerschieben(const CMKnoten&, long index, double dx
       form.SetPunkt(i, p.x + dx, p.y + dy);
     }
   }
-  box_.xmin = std::min(box_.xmin, corner.x + dx);
-  box_.ymin = std::min(box_.ymin, corner.y + dy);
-  box_.xmax = std::max(box_.xmax, corner.x + dx);
-  box_.ymax = std::max(box_.ymax, corner.y + dy);
+  BoxBilden(grundformen);
+}
+
+// The box around the frame outline and all sash outlines.
+void CMFenster::BoxBilden(const std::vector<GEOM2_Polygon>& grundformen) {
+  XY low;
+  XY high;
+  rahmen_.RahmenPolygon.GetMinMax(low, high);
+  box_ = {low.x, low.y, high.x, high.y};
+  for (const GEOM2_Polygon& form : grundformen) {
+    form.GetMinMax(low, high);
+    box_ = {std::min(box_.xmin, low.x), std::min(box_.ymin, low.y), std::max(box_.xmax, high.x),
+            std::max(box_.ymax, high.y)};
+  }
 }
 
 bool CMFenster::ZusatzMaszeFuerBreiteUndHoeheAutomatisch(double dAbstand) {
   DeleteZusatzMasze();
-  long minJ = kKleinsterIndexStart;
-  long maxJ = 0;
-  long minK = kKleinsterIndexStart;
-  long maxK = 0;
-  GetMinMaxAchsIndizes(minJ, maxJ, minK, maxK);
-  const CMKnoten origin(static_cast<int>(minJ), static_cast<int>(minK));
+  const lintavo::Achsbereich benutzt = lintavo::BenutzteAchsen(*this);
+  const auto node = [](long j, long k) {
+    return CMKnoten(static_cast<int>(j), static_cast<int>(k));
+  };
+  const CMKnoten origin = node(benutzt.minJ, benutzt.minK);
 
   CMZusatzMasz breite = AutomaticMasz(StringId::Breite, dAbstand);
-  breite.SetHorizontal(origin, CMKnoten(static_cast<int>(maxJ), static_cast<int>(minK)));
+  breite.SetHorizontal(origin, node(benutzt.maxJ, benutzt.minK));
   CMZusatzMasz hoehe = AutomaticMasz(StringId::Hoehe, dAbstand);
-  hoehe.SetVertikal(origin, CMKnoten(static_cast<int>(minJ), static_cast<int>(maxK)));
+  hoehe.SetVertikal(origin, node(benutzt.minJ, benutzt.maxK));
   for (CMZusatzMasz* masz : {&breite, &hoehe}) {
     if (!ZusatzMaszVerbinden(*masz)) {
       throw CMException(static_cast<int>(StringId::MeldungZusatzmaszNichtAngebracht),

@@ -34,6 +34,21 @@ bool IsAmRahmen(const CMStrecke& kante, const GEOM2_Polygon& innen, const GEOM2_
   return false;
 }
 
+// Whether an edge runs along a mullion or transom that is there already.
+bool IsAnPfosten(const CMStrecke& kante, const std::vector<CMBauteil>& teile,
+                 const CMAchsen& achsen) {
+  XY a;
+  XY b;
+  kante.GetPunkte(a, b);
+  return std::any_of(teile.begin(), teile.end(), [&](const CMBauteil& teil) {
+    XY c;
+    XY d;
+    achsen.GetPunkt(teil.kAnfang, c);
+    achsen.GetPunkt(teil.kEnde, d);
+    return teil.IsRahmenteil() && lintavo::SeitenDecken(a, b, c, d);
+  });
+}
+
 // The segment from the lowest to the highest of the four ends of two collinear
 // segments.
 CMStrecke Merged(const CMStrecke& s, const CMStrecke& t) {
@@ -64,9 +79,11 @@ void AddMerged(std::vector<CMStrecke>& segmente, CMStrecke segment) {
   segmente.push_back(segment);
 }
 
-// Every sash edge that does not run along the frame, common edges once.
+// Every sash edge that runs along neither the frame nor a mullion or transom,
+// common edges once.
 std::vector<CMStrecke> Trennlinien(const std::vector<GEOM2_Polygon>& grundformen,
-                                   const GEOM2_Polygon& innen, const GEOM2_Polygon& umriss) {
+                                   const GEOM2_Polygon& innen, const CMFensterSatz& rahmen,
+                                   const CMAchsen& achsen) {
   std::vector<CMStrecke> segmente;
   for (const GEOM2_Polygon& form : grundformen) {
     for (int i = 0; i < form.GetAnzahl(); ++i) {
@@ -74,10 +91,21 @@ std::vector<CMStrecke> Trennlinien(const std::vector<GEOM2_Polygon>& grundformen
       XY b;
       form.GetKante(i, a, b);
       const CMStrecke kante(a, b);
-      if (!IsAmRahmen(kante, innen, umriss)) AddMerged(segmente, kante);
+      if (IsAmRahmen(kante, innen, rahmen.RahmenPolygon)) continue;
+      if (!IsAnPfosten(kante, rahmen.EinzelTeile, achsen)) AddMerged(segmente, kante);
     }
   }
   return segmente;
+}
+
+// Whether a segment has a piece inside the frame. Edges of a group of sashes
+// that the frame does not surround have none.
+bool IsImRahmen(const CMStrecke& segment, const GEOM2_Polygon& innen) {
+  XY a;
+  XY b;
+  segment.GetPunkte(a, b);
+  GEOM2_Achse achse;
+  return GEOM2_Polygon::SetAchse(a, b, achse) && innen.AchseClippen(achse, 0.0);
 }
 
 bool IsSameNode(const CMKnoten& a, const CMKnoten& b) {
@@ -90,6 +118,9 @@ bool IsBetween(const CMBauteil& bauteil, const CMKnoten& k1, const CMKnoten& k2)
 }
 
 // --- cutting ------------------------------------------------------------------
+
+// Ends come to rest after a few passes; this bounds bars piled on each other.
+constexpr int kMaxSchnittgaenge = 50;
 
 // A mullion or transom with its outline before any end is cut back.
 struct Stab {
@@ -143,8 +174,9 @@ double Schnittwinkel(const XY& richtung, XY seite) {
 }
 
 // Cuts one end (0 start, 1 end) of bar `i` back to the bar that it abuts. Where
-// two bars end in each other the earlier one of the list runs through.
-void EndeZurueckschneiden(const std::vector<Stab>& staebe, std::size_t i, int ende) {
+// two bars end in each other the earlier one of the list runs through. True when
+// that made the bar shorter.
+bool EndeZurueckschneiden(const std::vector<Stab>& staebe, std::size_t i, int ende) {
   const Stab& stab = staebe[i];
   const XY& hier = stab.ende[ende];
   const XY& fern = stab.ende[1 - ende];
@@ -155,7 +187,7 @@ void EndeZurueckschneiden(const std::vector<Stab>& staebe, std::size_t i, int en
     const std::optional<Anschluss> treffer = ErsterAnschluss(fern, hier, staebe[n]);
     if (treffer && (!anschluss || treffer->laenge < anschluss->laenge)) anschluss = treffer;
   }
-  if (!anschluss) return;
+  if (!anschluss) return false;
 
   GEOM2_Achse& achse = stab.bauteil->Achse(0);
   const XY richtung = lintavo::Einheit(Differenz(stab.ende[1], stab.ende[0]));
@@ -167,6 +199,30 @@ void EndeZurueckschneiden(const std::vector<Stab>& staebe, std::size_t i, int en
   }
   const double winkel = Schnittwinkel(richtung, anschluss->seite);
   (ende == 0 ? achse.dWinkelAnfang : achse.dWinkelEnde) = winkel;
+  return rest > lintavo::kNullLaenge;
+}
+
+// The bars of which something is there, with their outlines as they are now.
+std::vector<Stab> StaebeAus(std::vector<CMBauteil>& teile) {
+  std::vector<Stab> staebe;
+  for (CMBauteil& teil : teile) {
+    if (!teil.IsRahmenteil() || !(teil.GetAchsLaenge() > lintavo::kNullLaenge)) continue;
+    Stab& stab = staebe.emplace_back();
+    stab.bauteil = &teil;
+    teil.GetUmrissPunkteAchsSegment(0, stab.umriss);
+    teil.GetAchspunkte(stab.ende[0], stab.ende[1]);
+  }
+  return staebe;
+}
+
+// Cuts all ends back once. True when a bar became shorter.
+bool EndenZurueckschneiden(std::vector<CMBauteil>& teile) {
+  const std::vector<Stab> staebe = StaebeAus(teile);
+  bool shorter = false;
+  for (std::size_t i = 0; i < staebe.size(); ++i) {
+    for (const int ende : {0, 1}) shorter = EndeZurueckschneiden(staebe, i, ende) || shorter;
+  }
+  return shorter;
 }
 
 }  // namespace
@@ -174,8 +230,10 @@ void EndeZurueckschneiden(const std::vector<Stab>& staebe, std::size_t i, int en
 void CMFenster::PfostenUndRiegelAutomatischSetzen(const GEOM2_Polygon& innen,
                                                   const std::vector<GEOM2_Polygon>& grundformen) {
   // As large as the window, so that each end goes to its nearest node.
-  const double fangRadius = std::max(box_.xmax, box_.ymax);
-  for (const CMStrecke& segment : Trennlinien(grundformen, innen, rahmen_.RahmenPolygon)) {
+  const double fangRadius =
+      std::max({box_.xmax, box_.ymax, box_.xmax - box_.xmin, box_.ymax - box_.ymin});
+  for (const CMStrecke& segment : Trennlinien(grundformen, innen, rahmen_, achsen_)) {
+    if (!IsImRahmen(segment, innen)) continue;
     XY a;
     XY b;
     segment.GetPunkte(a, b);
@@ -198,7 +256,6 @@ void CMFenster::PfostenUndRiegelAutomatischSetzen(const GEOM2_Polygon& innen,
 
 void CMFenster::PfostenUndRiegelVerschneiden(const GEOM2_Polygon& innen) {
   if (innen.GetAnzahl() < 3) return;
-  std::vector<Stab> staebe;
   for (CMBauteil& bauteil : rahmen_.EinzelTeile) {
     if (!bauteil.IsRahmenteil()) continue;
     if (bauteil.GetAchsLaenge() <= lintavo::kNullLaenge) {
@@ -211,15 +268,11 @@ void CMFenster::PfostenUndRiegelVerschneiden(const GEOM2_Polygon& innen) {
     }
     if (!innen.AchseClippen(bauteil.Achse(0), 0.5 * bauteil.dBreite)) {
       bauteil.Achse(0).dLaenge = 0.0;
-      continue;
     }
-    Stab& stab = staebe.emplace_back();
-    stab.bauteil = &bauteil;
-    bauteil.GetUmrissPunkteAchsSegment(0, stab.umriss);
-    bauteil.GetAchspunkte(stab.ende[0], stab.ende[1]);
   }
-  for (std::size_t i = 0; i < staebe.size(); ++i) {
-    EndeZurueckschneiden(staebe, i, 0);
-    EndeZurueckschneiden(staebe, i, 1);
+  // An end that was cut back may now lie in a bar that it did not touch before.
+  // Going on until every end rests leaves nothing for a second calculation.
+  for (int pass = 0; pass < kMaxSchnittgaenge; ++pass) {
+    if (!EndenZurueckschneiden(rahmen_.EinzelTeile)) break;
   }
 }

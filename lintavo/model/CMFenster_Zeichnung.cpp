@@ -146,3 +146,8 @@ bool CMFenster::GetMaszBegrenzung(const CMStrecke& s, double dPfeilLaenge, doubl
   SetzeDreieck(rahmen, rahmen.laenge, rahmen.laenge - dPfeilLaenge, -h, p2);
   return true;
 }
+
+bool CMFenster::GetFluegelOeffnungsSymbol(long i, std::vector<CMStrecke>& lines) const {
+  const CMFensterSatz* fluegel = GetFluegelPtr(i);
+  return fluegel && fluegel->GetOeffSymbol(lines);
+}

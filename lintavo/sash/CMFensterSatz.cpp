@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "lintavo/model/CMAchsen.h"
+#include "lintavo/platform/Elements_intern.h"
 
 namespace {
 
@@ -30,12 +31,6 @@ template <std::size_t N>
 CString TextAt(const std::array<const char*, N>& texts, long i) {
   assert(i >= 0 && static_cast<std::size_t>(i) < N);
   return texts[static_cast<std::size_t>(i)];
-}
-
-template <class Liste>
-auto ElementPtr(Liste& liste, long i) -> decltype(liste.data()) {
-  if (i < 0 || static_cast<std::size_t>(i) >= liste.size()) return nullptr;
-  return &liste[static_cast<std::size_t>(i)];
 }
 
 long CountPresent(const std::vector<CMBauteil>& liste) {
@@ -136,24 +131,24 @@ CMBauteil* CMFensterSatz::GetRahmenBauteilPtr(long i) {
 
 const CMBauteil* CMFensterSatz::GetRahmenBauteilPtr(long i) const {
   if (!bMitRahmen || i < 0) return nullptr;
-  const CMBauteil* bauteil = ElementPtr(RahmenTeile, i);
+  const CMBauteil* bauteil = lintavo::ElementPtr(RahmenTeile, i);
   return bauteil ? bauteil : &RahmenVorlage;
 }
 
 CMBauteil* CMFensterSatz::GetEinzelBauteilPtr(long i) {
-  return ElementPtr(EinzelTeile, i);
+  return lintavo::ElementPtr(EinzelTeile, i);
 }
 
 const CMBauteil* CMFensterSatz::GetEinzelBauteilPtr(long i) const {
-  return ElementPtr(EinzelTeile, i);
+  return lintavo::ElementPtr(EinzelTeile, i);
 }
 
 CMBauteil* CMFensterSatz::GetSprossenBauteilPtr(long i) {
-  return ElementPtr(Sprossen, i);
+  return lintavo::ElementPtr(Sprossen, i);
 }
 
 const CMBauteil* CMFensterSatz::GetSprossenBauteilPtr(long i) const {
-  return ElementPtr(Sprossen, i);
+  return lintavo::ElementPtr(Sprossen, i);
 }
 
 long CMFensterSatz::GetBauteilNr(const GEOM2_Polygon& polygon, long side) const {
@@ -162,11 +157,11 @@ long CMFensterSatz::GetBauteilNr(const GEOM2_Polygon& polygon, long side) const 
 }
 
 CMBauteil* CMFensterSatz::GetBauteilPtr(const GEOM2_Polygon& polygon, long side) {
-  return ElementPtr(RahmenTeile, GetBauteilNr(polygon, side));
+  return lintavo::ElementPtr(RahmenTeile, GetBauteilNr(polygon, side));
 }
 
 const CMBauteil* CMFensterSatz::GetBauteilPtr(const GEOM2_Polygon& polygon, long side) const {
-  return ElementPtr(RahmenTeile, GetBauteilNr(polygon, side));
+  return lintavo::ElementPtr(RahmenTeile, GetBauteilNr(polygon, side));
 }
 
 long CMFensterSatz::lGetAnzahlRahmenBauteile() const {

@@ -248,10 +248,10 @@ class LINTAVO_API CMFensterSatz {
   /// The contour is the inner contour with extra parts, without edges shorter
   /// than the filling's `D7` (all of them stay where none would be long enough).
   /// Slats lie level from its lower edge upwards, one gap before each, cut to the
-  /// contour; a narrower last one takes up more than 0.1 of remaining height.
-  /// They are appended and carry `nummer` in `lReferenz`. No more than 1000 are
-  /// made, from below; none when the slats' width or their pitch is below 1e-6 or
-  /// not finite.
+  /// contour. More than 0.1 of remaining height gets one more slat of that width,
+  /// behind a gap as well, so that it may reach past the top. They are appended
+  /// and carry `nummer` in `lReferenz`. No more than 1000 are made, from below;
+  /// none when the slats' width or their pitch is below 1e-6 or not finite.
   ///
   /// @return false, with an empty contour, when there is no inner contour, and
   ///         for slats in a contour without height or width.
@@ -291,11 +291,12 @@ class LINTAVO_API CMFensterSatz {
   /// Appends the picture of the sash alone, seen from inside, hidden lines
   /// removed, and on request its opening symbol.
   ///
-  /// Frame parts cover single parts, these glazing bars, these slats, these the
-  /// filling; of equal parts the earlier one runs through. Drawn are the edges of
-  /// the parts that their outlines mark as visible (no mitres and joints), with
-  /// the part's attributes a1 as colour and a3 as priority. Where edges coincide
-  /// (within 0.001) that of the highest priority is drawn, of equals the nearer.
+  /// Frame parts cover single parts, these glazing bars, and these the filling,
+  /// whose slats show inside its border; of equal parts the earlier one runs
+  /// through. Drawn are the edges of the parts that their outlines mark as visible
+  /// (no mitres and joints), with the part's attributes a1 as colour and a3 as
+  /// priority. Where edges coincide (within 0.001) that of the highest priority is
+  /// drawn, of equals the nearer.
   ///
   /// @return whether the list holds any line then; false, with nothing appended,
   ///         when the picture would have more than a million lines.

@@ -43,6 +43,18 @@ bool EndetAuf(const CMZusatzMasz& masz, const Kaempferlinie& linie, const CMAchs
          std::fabs(ende.y - linie.y) <= lintavo::kNullLaenge;
 }
 
+// Moves the end of a fitted dimension along with the springing line. A node on
+// an axis leaves it and becomes a corner point at its place, counted from the
+// origin's row: so its height is stored with it, and measured from anywhere the
+// dimension has its length.
+void VersetzeEnde(CMKnoten& ende, double delta, const CMAchsen& achsen) {
+  if (ende.IsAufAchse()) {
+    const XY p = KnotenPunkt(ende, achsen);
+    ende.SetEckpu(ende.J(), 0, p.x, p.y);
+  }
+  ende.YPlus(delta);
+}
+
 bool HatBogen(const CMFensterSatz& satz) {
   return satz.lForm == eFormBogen || satz.lForm == eFormHalbBogen;
 }
@@ -87,7 +99,7 @@ bool CMFensterSatz::bBaseStichAnpassen(CMFenster& fenster) {
       SenkeNachbarn(fenster, *this, delta, masz);
       geaendert = true;
     }
-    masz.kKnoten2.YPlus(delta);
+    VersetzeEnde(masz.kKnoten2, delta, achsen);
   }
   return geaendert;
 }

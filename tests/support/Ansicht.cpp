@@ -44,6 +44,10 @@ std::vector<Teil> TeileVon(const CMFenster& fenster) {
     AddBauteile(fluegel.RahmenTeile, wie(Art::kFluegelrahmen), teile);
     AddBauteile(fluegel.EinzelTeile, wie(Art::kInnenteil), teile);
     AddBauteile(fluegel.Sprossen, wie(Art::kSprosse), teile);
+    GEOM2_Polygon verglast;
+    std::vector<CMBauteil> lamellen;
+    EXPECT_TRUE(fluegel.GetFuellung(0, verglast, lamellen));
+    AddBauteile(lamellen, wie(Art::kLamelle), teile);
     Teil& fuellung = teile.emplace_back(wie(Art::kFuellung));
     EXPECT_TRUE(fluegel.ErzeugeRahmenInnenPolygon(true, fuellung.umriss));
     for (int n = 0; n < fuellung.umriss.GetAnzahl(); ++n) fuellung.umriss.SetAttribut(n, 1);

@@ -22,28 +22,63 @@ struct Point {
 /// What a shape is a part of.
 enum class ShapeKind {
   kRahmenteil,         ///< part of the window's frame
-  kEinzelteil,         ///< mullion, transom or extra part of the frame
+  kEinzelteil,         ///< mullion or transom
+  kZusatzteil,         ///< extra part around the frame: sill, trim, roller-shutter box
   kGlas,               ///< a sash's filling: glass
   kPaneel,             ///< a sash's filling: a panel of constant thickness
-  kLamellen,           ///< a sash's filling: slats
+  kLamellen,           ///< a sash's filling: what is seen between its slats
+  kLamelle,            ///< one slat
   kFluegelteil,        ///< part of a sash's frame
   kFluegelEinzelteil,  ///< single or extra part of a sash
-  kSprosse             ///< glazing bar
+  kSprosse,            ///< glazing bar
+  kMaszPfeil           ///< arrowhead of a dimension
 };
 
 /// One closed outline; its last point is not a repetition of the first.
 struct Shape {
   ShapeKind kind = ShapeKind::kRahmenteil;
-  long fluegel = -1;  ///< index of the sash, -1 for what belongs to the frame
-  long bauteil = -1;  ///< index of the component within its kind, -1 for a filling
+  long fluegel = -1;  ///< index of the sash, -1 for what belongs to none
+  long bauteil = -1;  ///< index of the component within its kind, of a dimension for
+                      ///< an arrowhead, -1 for a filling
   std::vector<Point> outline;
 };
 
-/// All shapes of a window in the order in which they are painted: a later one
-/// covers an earlier one.
+/// What a line shows.
+enum class LineKind {
+  kAnsicht,          ///< visible edge of the view with hidden lines removed
+  kOeffnungsSymbol,  ///< line of a sash's opening symbol
+  kBeschlag,         ///< line of a fitting
+  kMaszLinie,        ///< line of a dimension
+  kHilfsLinie        ///< extension line of a dimension
+};
+
+/// One straight line.
+struct Line {
+  LineKind kind = LineKind::kAnsicht;
+  long fluegel = -1;  ///< index of the sash that it belongs to, else -1
+  long masz = -1;     ///< index of the dimension that it belongs to, else -1
+  Point from;
+  Point to;
+  bool dashed = false;
+};
+
+/// The length that is written at a dimension line.
+struct Text {
+  long masz = -1;        ///< index of the dimension
+  Point mitte;           ///< middle of the text
+  double hoehe = 0.0;    ///< height of a digit
+  bool upright = false;  ///< turned by 90°, so that it reads from bottom to top
+  std::string inhalt;    ///< ASCII
+};
+
+/// All that a picture shows. The shapes stand in the order in which they are
+/// painted, a later one covers an earlier one; then come the lines, which are
+/// already cut where a part in front covers them, and the texts.
 struct Scene {
   std::string name;  ///< the window's designation, valid UTF-8
-  std::vector<Shape> shapes;
+  std::vector<Shape> shapes{};
+  std::vector<Line> lines{};
+  std::vector<Text> texts{};
 };
 
 /// Smallest box with sides parallel to the axes.
@@ -54,14 +89,45 @@ struct Box {
   double top = 0.0;
 };
 
-/// The scene of a calculated window: its frame, then every sash with filling,
-/// frame and bars. Bent parts are one shape each, without joints. Parts that
-/// have no outline are left out; a window that was never calculated gives a
-/// scene without shapes.
-LINTAVO_DRAWING_API Scene BuildScene(const CFeApi& window);
+/// From where a window is seen. Neither view is mirrored: x grows to the right.
+enum class ViewSide { kInside, kOutside };
 
-/// The box of all outlines. False, leaving `box` as it is, when there is no
-/// point or any coordinate is infinite or not a number.
+/// What a scene shows of a window.
+struct SceneOptions {
+  ViewSide side = ViewSide::kInside;
+  bool dimensions = true;   ///< dimension lines with their texts
+  bool symbols = true;      ///< opening symbols
+  bool hiddenLine = false;  ///< visible edges instead of filled shapes
+};
+
+/// The scene of a calculated window.
+///
+/// Parts cover each other as `CMFenster::GetHiddenLineBild` tells for the side:
+/// sashes that open towards the viewer cover the frame, which covers the others
+/// and panes without a sash frame. Bent parts are one shape each, without joints.
+///
+/// An opening symbol is solid when the sash opens towards the viewer and dashed
+/// when it opens away from him. The lines of fixed sashes and of those that slide
+/// in their own plane ("Sc", "HS") are solid from both sides.
+///
+/// Fittings sit on the inside and on the side to which their sash opens: from
+/// outside only those of sashes that open outwards are shown.
+///
+/// Dimension lines lie where the window's file puts them; extension lines reach
+/// from those that lie beside the window up to it. The lengths are written
+/// beside the middle of their lines, or wherever nearby they meet no other line;
+/// short dimensions have their arrowheads outside. A dimension without length,
+/// and one farther than ten times the window's size away from it, is left out.
+///
+/// Parts that have no outline are left out; a window that was never calculated
+/// gives an empty scene.
+LINTAVO_DRAWING_API Scene BuildScene(const CFeApi& window, const SceneOptions& options = {});
+
+/// The box that a text needs; a writer keeps its text within it.
+LINTAVO_DRAWING_API Box GetBox(const Text& text);
+
+/// The box of all shapes, lines and texts. False, leaving `box` as it is, when
+/// there is no point or any coordinate is infinite or not a number.
 LINTAVO_DRAWING_API bool GetBox(const Scene& scene, Box& box);
 
 }  // namespace lintavo::drawing

@@ -1,4 +1,4 @@
-// Text from a window's file, made fit to be shown.
+// Text from a window's file, made fit to be shown, and lengths as text.
 #pragma once
 
 #include <string>
@@ -18,5 +18,9 @@ LINTAVO_DRAWING_API std::string ToDisplayText(std::string_view bytes);
 /// A text that fills its buffer may have been cut inside a UTF-8 character;
 /// such a rest is dropped instead of turning the text into Windows-1252.
 LINTAVO_DRAWING_API std::string ToDisplayText(const char (&buffer)[256], long length);
+
+/// A length as a reader likes it: at most three decimals, no trailing zeros, "."
+/// under every locale. Beyond 1e15, where decimals say nothing, in exponent form.
+LINTAVO_DRAWING_API std::string LengthText(double length);
 
 }  // namespace lintavo::drawing

@@ -1,5 +1,5 @@
 // Building the tree of boxes.
-#include "lintavo/model/Kastenbaum_intern.h"
+#include "lintavo/geom/Kastenbaum_intern.h"
 
 #include <algorithm>
 #include <numeric>

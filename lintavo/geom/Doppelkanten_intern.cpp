@@ -1,5 +1,5 @@
 // Taking coinciding stretches out of edges.
-#include "lintavo/model/Doppelkanten_intern.h"
+#include "lintavo/geom/Doppelkanten_intern.h"
 
 #include <algorithm>
 #include <cmath>
@@ -7,10 +7,10 @@
 #include <tuple>
 #include <utility>
 
+#include "lintavo/geom/Abschnitte_intern.h"
+#include "lintavo/geom/Kastenbaum_intern.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
-#include "lintavo/model/Kastenbaum_intern.h"
-#include "lintavo/model/Verdeckung_intern.h"
 
 namespace lintavo {
 namespace {
@@ -34,27 +34,22 @@ struct Strecke {
 };
 
 /// The stretch of s that t coincides with, inside s; empty (bis <= von) for none.
-Spanne Deckung(const Strecke& s, const Strecke& t) {
+Abschnitt Deckung(const Strecke& s, const Strecke& t) {
   const Strecke& lang = s.laenge >= t.laenge ? s : t;
   const Strecke& kurz = s.laenge >= t.laenge ? t : s;
   if (!lang.NaheDerGeraden(kurz.a) || !lang.NaheDerGeraden(kurz.b)) return {};
   const auto [von, bis] = std::minmax({s.Entlang(t.a), s.Entlang(t.b)});
-  const Spanne spanne{std::max(von, 0.0), std::min(bis, s.laenge)};
-  const bool deckt = spanne.bis - spanne.von > std::min(kUeberlagerung, 0.5 * kurz.laenge);
-  return deckt ? spanne : Spanne{};
+  const Abschnitt abschnitt{std::max(von, 0.0), std::min(bis, s.laenge)};
+  const bool deckt = abschnitt.bis - abschnitt.von > std::min(kUeberlagerung, 0.5 * kurz.laenge);
+  return deckt ? abschnitt : Abschnitt{};
 }
 
-/// What is left of a length without the given stretches.
-std::vector<Spanne> Rest(double laenge, std::vector<Spanne>& ohne) {
-  std::sort(ohne.begin(), ohne.end(),
-            [](const Spanne& s, const Spanne& t) { return s.von < t.von; });
-  ohne.push_back({laenge, laenge});
-  std::vector<Spanne> rest;
-  double ab = 0.0;
-  for (const Spanne& spanne : ohne) {
-    if (spanne.von - ab > kUeberlagerung) rest.push_back({ab, spanne.von});
-    ab = std::max(ab, spanne.bis);
-  }
+/// What is left of a length without the given stretches; a rest up to the tolerance is
+/// none.
+Abschnitte Rest(double laenge, Abschnitte& ohne) {
+  AbschnitteVereinigen(ohne);
+  Abschnitte rest = UebrigeAbschnitte({{0.0, laenge}}, ohne);
+  std::erase_if(rest, [](const Abschnitt& s) { return s.bis - s.von <= kUeberlagerung; });
   return rest;
 }
 
@@ -93,7 +88,7 @@ std::vector<CMStrecke> OhneDoppelte(const std::vector<Bildkante>& kanten) {
 
   std::vector<CMStrecke> bild;
   bild.reserve(kanten.size());
-  std::vector<Spanne> ohne;
+  Abschnitte ohne;
   for (std::size_t i = 0; i < kanten.size(); ++i) {
     const Strecke& s = strecken[i];
     Kasten kasten;
@@ -102,14 +97,14 @@ std::vector<CMStrecke> OhneDoppelte(const std::vector<Bildkante>& kanten) {
     ohne.clear();
     baum.Suchen(kasten.Vergroessert(kUeberlagerung), [&](std::size_t j) {
       if (rang[j] >= rang[i]) return;
-      const Spanne spanne = Deckung(s, strecken[j]);
-      if (spanne.bis > spanne.von) ohne.push_back(spanne);
+      const Abschnitt abschnitt = Deckung(s, strecken[j]);
+      if (abschnitt.bis > abschnitt.von) ohne.push_back(abschnitt);
     });
     if (ohne.empty()) {
       bild.push_back(kanten[i].strecke);
       continue;
     }
-    for (const Spanne& rest : Rest(s.laenge, ohne)) {
+    for (const Abschnitt& rest : Rest(s.laenge, ohne)) {
       CMStrecke& stueck = bild.emplace_back(kanten[i].strecke);
       stueck.SetPunkte(rest.von > 0.0 ? Zwischenpunkt(s.a, s.b, rest.von / s.laenge) : s.a,
                        rest.bis < s.laenge ? Zwischenpunkt(s.a, s.b, rest.bis / s.laenge) : s.b);

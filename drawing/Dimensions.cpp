@@ -1,0 +1,138 @@
+// Lines, extension lines and arrowheads of dimensions, from the façade's answers.
+#include <algorithm>
+#include <cmath>
+
+#include "Dimensions_intern.h"
+#include "Parts_intern.h"
+
+namespace lintavo::drawing {
+namespace {
+
+// Shares of the window's longer side.
+constexpr double kTextShare = 0.023;
+// Shares of a digit's height.
+constexpr double kArrowLengthShare = 1.0;
+constexpr double kArrowWidthShare = 0.4;
+constexpr double kOverhangShare = 1.2;
+constexpr double kGapShare = 0.4;
+// Two arrowheads need a dimension as long as so many of them; outside of it the
+// line goes on for so many.
+constexpr double kArrowsInside = 3.0;
+constexpr double kArrowsOutside = 2.0;
+// A dimension farther away than this, in window sizes, would leave nothing of the
+// window to be seen.
+constexpr double kFarthest = 10.0;
+
+bool LiesNear(const Box& box, double extent, const Point& point) {
+  const double reach = kFarthest * extent;
+  return point.x >= box.left - reach && point.x <= box.right + reach &&
+         point.y >= box.bottom - reach && point.y <= box.top + reach;
+}
+
+Line LineOf(LineKind kind, long masz, const Point& from, const Point& to) {
+  Line line;
+  line.kind = kind;
+  line.masz = masz;
+  line.from = from;
+  line.to = to;
+  return line;
+}
+
+// Draws the end of an extension line that points to the window out to it.
+void ReachToWindow(const Dimension& dimension, const Box& box, double gap, Line& line) {
+  double Point::*const across = dimension.upright ? &Point::x : &Point::y;
+  const double low = (dimension.upright ? box.left : box.bottom) - gap;
+  const double high = (dimension.upright ? box.right : box.top) + gap;
+  double& smaller = line.from.*across < line.to.*across ? line.from.*across : line.to.*across;
+  double& larger = line.from.*across < line.to.*across ? line.to.*across : line.from.*across;
+  if (dimension.from.*across < low) larger = std::max(larger, low);
+  if (dimension.from.*across > high) smaller = std::min(smaller, high);
+}
+
+void AddExtensionLines(const CFeApi& window, const Dimension& dimension, const Box& box,
+                       const DimensionSizes& sizes, Scene& scene) {
+  CFeApiStrecken lines;
+  if (window.GetZMaszHilfslinien(dimension.masz, sizes.overhang, lines) != 1) return;
+  for (int i = 0; i < lines.lAnzahl; ++i) {
+    Line line = LineOf(LineKind::kHilfsLinie, dimension.masz, {lines.pdX1[i], lines.pdY1[i]},
+                       {lines.pdX2[i], lines.pdY2[i]});
+    ReachToWindow(dimension, box, sizes.gap, line);
+    scene.lines.push_back(line);
+  }
+}
+
+// The arrowhead mirrored at its tip, which is its first point.
+std::vector<Point> TurnedRound(std::vector<Point> arrow) {
+  for (std::size_t i = 1; i < arrow.size(); ++i) {
+    arrow[i] = {2.0 * arrow[0].x - arrow[i].x, 2.0 * arrow[0].y - arrow[i].y};
+  }
+  return arrow;
+}
+
+void AddArrows(const CFeApi& window, const Dimension& dimension, const DimensionSizes& sizes,
+               Scene& scene) {
+  CFeApiPolygon arrows[2];
+  if (window.GetZMaszPfeile(dimension.masz, sizes.arrowLength, sizes.arrowWidth, arrows[0],
+                            arrows[1]) != 1) {
+    return;
+  }
+  for (const CFeApiPolygon& arrow : arrows) {
+    const std::vector<Point> outline = ToOutline(arrow);
+    scene.shapes.push_back({ShapeKind::kMaszPfeil, -1, dimension.masz,
+                            dimension.arrowsOutside ? TurnedRound(outline) : outline});
+  }
+}
+
+void AddDimensionLine(const Dimension& dimension, const DimensionSizes& sizes, Scene& scene) {
+  Line line = LineOf(LineKind::kMaszLinie, dimension.masz, dimension.from, dimension.to);
+  if (dimension.arrowsOutside) {
+    double Point::*const along = dimension.upright ? &Point::y : &Point::x;
+    line.from.*along -= kArrowsOutside * sizes.arrowLength;
+    line.to.*along += kArrowsOutside * sizes.arrowLength;
+  }
+  scene.lines.push_back(line);
+}
+
+// A dimension that has a line of some length near the window.
+bool ReadDimension(const CFeApi& window, long masz, const Box& box, const DimensionSizes& sizes,
+                   Dimension& dimension) {
+  CFeApiStrecken lines;
+  if (window.GetZMaszLinie(masz, lines) != 1 || lines.lAnzahl != 1) return false;
+  if (window.GetZMaszHilfslinien(masz, sizes.overhang, lines) != 1) return false;
+  window.GetZMaszLinie(masz, lines);
+  dimension.masz = masz;
+  dimension.from = {lines.pdX1[0], lines.pdY1[0]};
+  dimension.to = {lines.pdX2[0], lines.pdY2[0]};
+  dimension.upright = dimension.from.x == dimension.to.x;  // exact: one value in both
+  const double length =
+      std::hypot(dimension.to.x - dimension.from.x, dimension.to.y - dimension.from.y);
+  dimension.arrowsOutside = length < kArrowsInside * sizes.arrowLength;
+  dimension.length = std::abs(window.GetZMaszLaenge(masz));
+  const double extent = std::max(box.right - box.left, box.top - box.bottom);
+  return LiesNear(box, extent, dimension.from) && LiesNear(box, extent, dimension.to);
+}
+
+}  // namespace
+
+DimensionSizes SizesFor(double extent) {
+  const double text = kTextShare * extent;
+  return {text, kArrowLengthShare * text, kArrowWidthShare * text, kOverhangShare * text,
+          kGapShare * text};
+}
+
+std::vector<Dimension> AddDimensions(const CFeApi& window, const Box& box,
+                                     const DimensionSizes& sizes, Scene& scene) {
+  std::vector<Dimension> dimensions;
+  const long count = window.GetAnzahlZusatzMasze();
+  for (long i = 0; i < count; ++i) {
+    Dimension dimension;
+    if (!ReadDimension(window, i, box, sizes, dimension)) continue;
+    AddDimensionLine(dimension, sizes, scene);
+    AddExtensionLines(window, dimension, box, sizes, scene);
+    AddArrows(window, dimension, sizes, scene);
+    dimensions.push_back(dimension);
+  }
+  return dimensions;
+}
+
+}  // namespace lintavo::drawing

@@ -1,0 +1,43 @@
+// Dimension lines of a window, and where their lengths are written.
+#pragma once
+
+#include <vector>
+
+#include "lintavo/api/CFeApi.h"
+#include "lintavo/drawing/Scene.h"
+
+namespace lintavo::drawing {
+
+/// A dimension as it is drawn, ready to have its length written beside it.
+struct Dimension {
+  long masz = -1;
+  bool upright = false;  ///< it measures a height
+  Point from;            ///< the ends of what it measures, the left or lower one first
+  Point to;
+  bool arrowsOutside = false;
+  double length = 0.0;  ///< what is written
+};
+
+/// Sizes of what belongs to a dimension, in the window's units.
+struct DimensionSizes {
+  double text;         ///< height of a digit
+  double arrowLength;  ///< along the dimension line
+  double arrowWidth;
+  double overhang;  ///< by which extension lines cross the dimension line
+  double gap;       ///< between the window and an extension line, a line and its text
+};
+
+/// The sizes that suit a window whose longer side is `extent`.
+DimensionSizes SizesFor(double extent);
+
+/// Appends the lines and arrowheads of all dimensions around a window that fills
+/// `box`; returns what has to be written.
+std::vector<Dimension> AddDimensions(const CFeApi& window, const Box& box,
+                                     const DimensionSizes& sizes, Scene& scene);
+
+/// Writes the lengths, each beside its line where it meets no line, shape's edge
+/// or text of the scene.
+void AddDimensionTexts(const std::vector<Dimension>& dimensions, const DimensionSizes& sizes,
+                       Scene& scene);
+
+}  // namespace lintavo::drawing

@@ -1,0 +1,154 @@
+// Filled shapes of a window's parts from the outlines that the façade hands out.
+//
+// Of parts of one kind that cross, such as two bars, the earlier one runs through:
+// each kind is appended from its last part to its first.
+#include <cstddef>
+#include <utility>
+
+#include "Parts_intern.h"
+
+namespace lintavo::drawing {
+namespace {
+
+// The façade's numbers for the kinds of components.
+constexpr long kArtRahmenteile = 1;
+constexpr long kArtEinzelteile = 2;
+constexpr long kArtSprossen = 3;
+
+// The façade's segment number for the joined outline of a bent part.
+constexpr long kAlleSegmente = -1;
+
+void AddShape(Scene& scene, ShapeKind kind, long fluegel, long bauteil,
+              const CFeApiPolygon& polygon) {
+  std::vector<Point> outline = ToOutline(polygon);
+  if (outline.size() < 3) return;
+  scene.shapes.push_back({kind, fluegel, bauteil, std::move(outline)});
+}
+
+bool RahmenUmriss(const CFeApi& window, long art, long i, CFeApiPolygon& outline) {
+  double length = 0.0;
+  double start = 0.0;
+  double end = 0.0;
+  return window.GetRahmenBauteilUmriss(art, i, kAlleSegmente, outline, length, start, end) == 1;
+}
+
+void AddFluegelBauteile(const CFeApi& window, long fluegel, long art, ShapeKind kind,
+                        Scene& scene) {
+  for (long i = window.GetFluegelAnzahlBauteile(art, fluegel) - 1; i >= 0; --i) {
+    CFeApiPolygon outline;
+    double length = 0.0;
+    double start = 0.0;
+    double end = 0.0;
+    if (window.GetFluegelBauteilUmriss(art, fluegel, i, kAlleSegmente, outline, length, start,
+                                       end) == 1) {
+      AddShape(scene, kind, fluegel, i, outline);
+    }
+  }
+}
+
+ShapeKind FuellungKind(eFeApiFuellArten art) {
+  switch (art) {
+    case eFeApiFuellungGlas:
+      return ShapeKind::kGlas;
+    case eFeApiFuellungKonstant:
+      return ShapeKind::kPaneel;
+    case eFeApiFuellungLamellen:
+      return ShapeKind::kLamellen;
+  }
+  return ShapeKind::kGlas;
+}
+
+// The filling's own contour lacks short edges, so on an arch it would leave gaps:
+// the sash's inner outline is what it fills.
+void AddFuellung(const CFeApi& window, long fluegel, Scene& scene) {
+  CFeApiPolygon outline;
+  if (window.GetFluegelInnenPolygon(fluegel, 0.0, outline) != 1) return;
+  AddShape(scene, FuellungKind(window.GetFluegelFuellungArt(fluegel)), fluegel, -1, outline);
+}
+
+void AddLamellen(const CFeApi& window, long fluegel, Scene& scene) {
+  for (long i = window.GetFluegelAnzahlLamellen(fluegel) - 1; i >= 0; --i) {
+    CFeApiPolygon outline;
+    if (window.GetFluegelLamellenUmriss(fluegel, i, outline) == 1) {
+      AddShape(scene, ShapeKind::kLamelle, fluegel, i, outline);
+    }
+  }
+}
+
+// Whether a point lies within an outline, by the crossings of a ray to the right.
+bool IsInside(const std::vector<Point>& outline, const Point& point) {
+  bool inside = false;
+  for (std::size_t i = 0; i < outline.size(); ++i) {
+    const Point& a = outline[i];
+    const Point& b = outline[i + 1 < outline.size() ? i + 1 : 0];
+    if ((a.y > point.y) == (b.y > point.y)) continue;
+    if (point.x < a.x + (b.x - a.x) * (point.y - a.y) / (b.y - a.y)) inside = !inside;
+  }
+  return inside;
+}
+
+Point Mean(const std::vector<Point>& outline) {
+  Point mean;
+  for (const Point& point : outline) {
+    mean.x += point.x / static_cast<double>(outline.size());
+    mean.y += point.y / static_cast<double>(outline.size());
+  }
+  return mean;
+}
+
+// The outer outline of the frame, without the extra parts around it. A part's outline
+// runs along its outer side first and then back along its inner side.
+std::vector<Point> RahmenOutline(const CFeApi& window) {
+  std::vector<Point> ring;
+  const long count = window.GetAnzahlRahmenBauteile(kArtRahmenteile);
+  for (long i = 0; i < count; ++i) {
+    CFeApiPolygon polygon;
+    if (!RahmenUmriss(window, kArtRahmenteile, i, polygon)) continue;
+    const std::vector<Point> outline = ToOutline(polygon);
+    ring.insert(ring.end(), outline.begin(),
+                outline.begin() + static_cast<std::ptrdiff_t>(outline.size() / 2));
+  }
+  return ring;
+}
+
+// Mullions and transoms lie within the frame, extra parts around it.
+void AddEinzelteile(const CFeApi& window, bool aussen, Scene& scene) {
+  const std::vector<Point> rahmen = RahmenOutline(window);
+  for (long i = window.GetAnzahlRahmenBauteile(kArtEinzelteile) - 1; i >= 0; --i) {
+    CFeApiPolygon polygon;
+    if (!RahmenUmriss(window, kArtEinzelteile, i, polygon)) continue;
+    if (IsInside(rahmen, Mean(ToOutline(polygon))) == aussen) continue;
+    AddShape(scene, aussen ? ShapeKind::kZusatzteil : ShapeKind::kEinzelteil, -1, i, polygon);
+  }
+}
+
+}  // namespace
+
+std::vector<Point> ToOutline(const CFeApiPolygon& polygon) {
+  std::vector<Point> outline;
+  if (polygon.lAnzahl <= 0 || polygon.pdX == nullptr || polygon.pdY == nullptr) return outline;
+  outline.reserve(static_cast<std::size_t>(polygon.lAnzahl));
+  for (int i = 0; i < polygon.lAnzahl; ++i) outline.push_back({polygon.pdX[i], polygon.pdY[i]});
+  return outline;
+}
+
+void AddRahmenShapes(const CFeApi& window, Scene& scene) {
+  AddEinzelteile(window, false, scene);
+  for (long i = window.GetAnzahlRahmenBauteile(kArtRahmenteile) - 1; i >= 0; --i) {
+    CFeApiPolygon outline;
+    if (RahmenUmriss(window, kArtRahmenteile, i, outline)) {
+      AddShape(scene, ShapeKind::kRahmenteil, -1, i, outline);
+    }
+  }
+  AddEinzelteile(window, true, scene);
+}
+
+void AddFluegelShapes(const CFeApi& window, long fluegel, Scene& scene) {
+  AddFuellung(window, fluegel, scene);
+  AddLamellen(window, fluegel, scene);
+  AddFluegelBauteile(window, fluegel, kArtSprossen, ShapeKind::kSprosse, scene);
+  AddFluegelBauteile(window, fluegel, kArtEinzelteile, ShapeKind::kFluegelEinzelteil, scene);
+  AddFluegelBauteile(window, fluegel, kArtRahmenteile, ShapeKind::kFluegelteil, scene);
+}
+
+}  // namespace lintavo::drawing

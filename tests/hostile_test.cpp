@@ -1,0 +1,116 @@
+// Every file under data/hostile once broke, or was written to break, something:
+// each is read in every form, and taken through all that a host can ask.
+#include <algorithm>
+#include <cctype>
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <zlib.h>
+
+#include "lintavo/api/CFeApi.h"
+
+#include "fuzz/Fensterlauf.h"
+#include "support/Ordner.h"
+
+namespace {
+
+using lintavo::fuzz::PruefeFenster;
+
+// A file of 10 KB is read, and all of it asked, within this time.
+#if defined(NDEBUG) && !defined(__SANITIZE_ADDRESS__)
+constexpr double kSekunden = 1.0;
+#else
+constexpr double kSekunden = 30.0;
+#endif
+
+std::vector<std::string> Dateien() {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(LINTAVO_TEST_DATA_DIR "/hostile")) {
+    names.push_back(entry.path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+std::string TestName(const testing::TestParamInfo<std::string>& info) {
+  std::string name = info.param;
+  for (char& c : name) {
+    if (std::isalnum(static_cast<unsigned char>(c)) == 0) c = '_';
+  }
+  return name;
+}
+
+std::string Inhalt(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::string MitCrLf(const std::string& text) {
+  std::string lines;
+  for (const char c : text) lines += c == '\n' ? std::string("\r\n") : std::string(1, c);
+  return lines;
+}
+
+std::string Gepackt(const std::string& text) {
+  std::string stream(compressBound(text.size()), '\0');
+  uLongf length = stream.size();
+  compress(reinterpret_cast<Bytef*>(stream.data()), &length,
+           reinterpret_cast<const Bytef*>(text.data()), text.size());
+  stream.resize(length);
+  return stream;
+}
+
+class HostileTest : public testing::TestWithParam<std::string> {
+ protected:
+  void SetUp() override { start_ = std::clock(); }
+  // Time of this process alone, so that a busy machine is no failure.
+  void TearDown() override {
+    EXPECT_LT(static_cast<double>(std::clock() - start_) / CLOCKS_PER_SEC, kSekunden);
+  }
+
+  std::string Pfad() const { return LINTAVO_TEST_DATA_DIR "/hostile/" + GetParam(); }
+
+ private:
+  std::clock_t start_ = 0;
+};
+
+TEST_P(HostileTest, FileIsReadAsPlainAndAsCompressed) {
+  char name[256];
+  CFeApi::GetBezeichnungFromFile(Pfad().c_str(), name);
+  CFeApi plain;
+  plain.ReadFromFile(Pfad().c_str());
+  EXPECT_EQ(PruefeFenster(plain), "");
+  CFeApi compressed;
+  compressed.ReadFromCompressedFile(Pfad().c_str());
+  EXPECT_EQ(PruefeFenster(compressed), "");
+}
+
+TEST_P(HostileTest, TextIsReadAsBuffer) {
+  const std::string text = Inhalt(Pfad());
+  EXPECT_EQ(lintavo::fuzz::PruefeMakroText(text), "");
+  const std::string lines = MitCrLf(text);
+  CFeApi fenster;
+  fenster.ReadFromBuffer(static_cast<long>(lines.size()), lines.data(), '\r');
+  EXPECT_EQ(PruefeFenster(fenster), "");
+}
+
+TEST_P(HostileTest, TextIsReadPackedAndWrittenWithItsForm) {
+  const lintavo::test::Ordner ordner;
+  const std::string path = ordner / "gepackt.cqz";
+  std::ofstream(path, std::ios::binary) << Gepackt(MitCrLf(Inhalt(Pfad())));
+  char name[256];
+  CFeApi::GetBezeichnungFromFile(path.c_str(), name);
+  CFeApi fenster;
+  fenster.ReadFromCompressedFile(path.c_str());
+  EXPECT_EQ(PruefeFenster(fenster), "");
+  EXPECT_EQ(lintavo::fuzz::PruefeModell(Inhalt(Pfad()), ordner / "fenster.aqz"), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, HostileTest, testing::ValuesIn(Dateien()), TestName);
+
+}  // namespace
