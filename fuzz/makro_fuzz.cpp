@@ -39,7 +39,8 @@ extern "C" std::size_t LLVMFuzzerCustomCrossOver(const std::uint8_t* data1, std:
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const lintavo::fuzz::Arbeitsordner ordner;
-  lintavo::fuzz::Fordere(lintavo::fuzz::PruefeMakroText(Text(data, size)));
+  lintavo::fuzz::Fordere(
+      lintavo::fuzz::PruefeMakroText(Text(data, size), static_cast<int>(size % 3)));
   lintavo::fuzz::Fordere(lintavo::fuzz::PruefeModell(Text(data, size), ordner.Pfad("fenster.aqz")));
   return 0;
 }

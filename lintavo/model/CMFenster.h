@@ -184,7 +184,7 @@ class LINTAVO_API CMFenster {
   bool NeuenAchsAbstandSetzen(const CMZusatzMasz* masz, long i1, long i2, double dSoll);
   /// Moves one axis so that its span from axis `iVon` becomes `dWert`; all other
   /// axes keep their positions. Throws 49 with `name` when `iAchse` is not an
-  /// axis or the length is not finite.
+  /// axis or the shift is not finite or beyond 1e9.
   void AchseVerschieben(bool bVerti, int iVon, int iAchse, double dWert, const CString& name);
   /// Applies all dimensions to the axes. Returns the first that cannot be
   /// applied, or null. Throws 49, naming the dimension, when axes in use end up

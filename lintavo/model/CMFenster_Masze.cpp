@@ -264,7 +264,8 @@ void CMFenster::AchseVerschieben(bool bVerti, int iVon, int iAchse, double dWert
                                  const CString& name) {
   const bool known = IsAxis(achsen_, bVerti, iVon) && IsAxis(achsen_, bVerti, iAchse);
   const double missing = achsen_.dGetEffVersch(bVerti, iVon, iAchse, dWert);
-  if (!known || !std::isfinite(missing)) {
+  // A shift beyond any drawing is lost to rounding: the axis would not arrive.
+  if (!known || !(std::fabs(missing) <= lintavo::kGroessteKoordinate)) {
     throw CMException(static_cast<int>(StringId::MeldungZusatzmaszLaenge), name);
   }
   // Applying rounding noise would change a window that is calculated twice.
