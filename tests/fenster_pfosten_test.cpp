@@ -208,6 +208,22 @@ TEST(Fluegel, ASashWhoseInnerContourVanishesFailsWithMessage22) {
   EXPECT_EQ(fenster.GetFehler(), 22);
 }
 
+TEST(Fluegel, AllComponentsAndFillingsCanBeCollected) {
+  CMFenster fenster = Raster(2, 1, 50.0, 100.0);
+  fenster.AddRahmenEinzelBauteil(CMKnoten(1, 0), CMKnoten(1, 1), Vorlage());
+  fenster.GetFluegelPtr(1L)->Fuellung.SetKonstant(3.0);
+  ASSERT_TRUE(fenster.Berechne(false));
+  std::vector<CMBauteil> bauteile;
+  fenster.GetBauteile(bauteile);
+  // Four frame parts, the mullion, four parts of each sash.
+  EXPECT_EQ(bauteile.size(), 13u);
+  std::vector<CMFuellung> fuellungen;
+  fenster.GetFuellungen(fuellungen);
+  ASSERT_EQ(fuellungen.size(), 2u);
+  EXPECT_TRUE(fuellungen[0].IsGlas());
+  EXPECT_TRUE(fuellungen[1].IsKonstant());
+}
+
 TEST(Fluegel, CopiesAreDeepAndDeletingClosesTheGap) {
   CMFenster fenster = Raster(3, 1, 50.0, 100.0);
   fenster.GetFluegelPtr(2L)->SetName("Drei");

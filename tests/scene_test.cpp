@@ -322,8 +322,8 @@ TEST(SceneSymbols, EndWhereALeafInFrontCoversThem) {
   // From outside the fixed sash lies in front. Its stile is made so wide that it
   // reaches 85 beyond the axis at 160, to X 75. The glass behind spans X 16.5 to 155,
   // so the arrow in its middle, 30 long, begins at X 70.75.
-  const CFeApi window = Changed("hebeschiebetuer", "R4=10,5,1,3,1,3,7.8\nX1=0,1",
-                                "R4=90,85,1,3,1,3,7.8\nX1=0,1");
+  const CFeApi window =
+      Changed("hebeschiebetuer", "R4=10,5,1,3,1,3,7.8\nX1=0,1", "R4=90,85,1,3,1,3,7.8\nX1=0,1");
   double left = 1e300;
   double right = -1e300;
   for (const Line& line : SceneOf(window, ViewSide::kOutside).lines) {

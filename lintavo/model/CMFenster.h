@@ -122,6 +122,14 @@ class LINTAVO_API CMFenster {
   /// ended at it. False for a bad index.
   bool DeleteRahmenEinzelBauteil(long i);
 
+  // --- collections -----------------------------------------------------------
+
+  /// Appends copies of all components: the frame's parts and single parts, then of each
+  /// sash its parts, single parts and bars.
+  void GetBauteile(std::vector<CMBauteil>& bauteile) const;
+  /// Appends copies of the fillings, one per sash, in sash order.
+  void GetFuellungen(std::vector<CMFuellung>& fuellungen) const;
+
   // --- macro file ------------------------------------------------------------
 
   /// Reads a plain macro file; the window is emptied first. False, with the
@@ -277,8 +285,11 @@ class LINTAVO_API CMFenster {
   /// picture of more than a million lines.
   bool GetHiddenLineBild(std::vector<CMStrecke>& lines, bool bVonAussen) const;
 
-  /// Readable dump for diagnostics.
-  void Trace() const {}
+  /// Dumps the window and its frame polygon, readable, to standard error; nothing in
+  /// a production build.
+  void Trace() const;
+  /// The same for the frame polygon alone.
+  void TRACE_RahmenPolygon() const;
 
  private:
   struct Box {
