@@ -11,21 +11,31 @@ configure_package_config_file(cmake/lintavoConfig.cmake.in
   INSTALL_DESTINATION ${package_dir})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/lintavoConfigVersion.cmake
   COMPATIBILITY SameMajorVersion)
-install(EXPORT lintavoTargets NAMESPACE lintavo:: DESTINATION ${package_dir})
+install(EXPORT lintavoTargets NAMESPACE lintavo:: DESTINATION ${package_dir}
+  COMPONENT development)
 install(FILES
   ${PROJECT_BINARY_DIR}/lintavoConfig.cmake
   ${PROJECT_BINARY_DIR}/lintavoConfigVersion.cmake
-  DESTINATION ${package_dir})
+  DESTINATION ${package_dir} COMPONENT development)
 
 # A shared library brings its own dependencies; a static one leaves them to the
 # host's link line, and its hosts must not ask for imported symbols.
 set(LINTAVO_PC_REQUIRES "")
 set(LINTAVO_DRAWING_PC_REQUIRES "lintavo = ${PROJECT_VERSION}")
 set(LINTAVO_PC_CFLAGS "")
+set(LINTAVO_PC_LIBS "")
 if(NOT BUILD_SHARED_LIBS)
   set(LINTAVO_PC_REQUIRES "zlib polyclipping")
-  string(APPEND LINTAVO_DRAWING_PC_REQUIRES " cairo cairo-svg cairo-pdf cairo-png")
+  if(LINTAVO_WITH_CAIRO)
+    string(APPEND LINTAVO_DRAWING_PC_REQUIRES " cairo cairo-svg cairo-pdf cairo-png")
+  endif()
   set(LINTAVO_PC_CFLAGS " -DLINTAVO_STATIC")
+  # What a C++ compiler links by itself and a C compiler does not.
+  foreach(lib ${CMAKE_CXX_IMPLICIT_LINK_LIBRARIES})
+    if(lib MATCHES "^(stdc\\+\\+|c\\+\\+|c\\+\\+abi|m)$")
+      string(APPEND LINTAVO_PC_LIBS " -l${lib}")
+    endif()
+  endforeach()
 endif()
 
 # The way from the folder of the pkg-config files up to the prefix.
@@ -52,5 +62,6 @@ if(LINTAVO_BUILD_TOOLS)
 endif()
 foreach(file ${pkgconfig_files})
   configure_file(cmake/${file}.pc.in ${PROJECT_BINARY_DIR}/${file}.pc @ONLY)
-  install(FILES ${PROJECT_BINARY_DIR}/${file}.pc DESTINATION ${pkgconfig_dir})
+  install(FILES ${PROJECT_BINARY_DIR}/${file}.pc DESTINATION ${pkgconfig_dir}
+    COMPONENT development)
 endforeach()

@@ -39,5 +39,7 @@
 
 #include "lintavo/capi/drawings_c.h"
 #include "lintavo/capi/parts_c.h"
+#include "lintavo/capi/position_c.h"
 #include "lintavo/capi/records_c.h"
+#include "lintavo/capi/settings_c.h"
 #include "lintavo/capi/window_c.h"

@@ -2,7 +2,7 @@
 # Installs this build into an empty prefix and uses it from there as a host
 # does: through the CMake package and through pkg-config.
 #
-# package_test.sh SOURCE_DIR BUILD_DIR CMAKE CXX CXX_FLAGS
+# package_test.sh SOURCE_DIR BUILD_DIR CMAKE CXX CXX_FLAGS CC C_FLAGS
 set -euo pipefail
 
 source_dir=$1
@@ -10,6 +10,8 @@ build_dir=$2
 cmake=$3
 cxx=$4
 flags=$5
+cc=$6
+c_flags=$7
 
 fail() {
   echo "package_test: $*" >&2
@@ -33,7 +35,8 @@ fi
 # Configures and builds the CMake project in a folder against the prefix.
 build_with_cmake() {
   { "$cmake" -S "$1" -B "$1/build" -DCMAKE_PREFIX_PATH="$prefix" \
-    -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_CXX_FLAGS="$flags" &&
+    -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_CXX_FLAGS="$flags" \
+    -DCMAKE_C_COMPILER="$cc" -DCMAKE_C_FLAGS="$c_flags" &&
     "$cmake" --build "$1/build"; } >"$scratch/log" 2>&1 ||
     { cat "$scratch/log"; fail "$1 cannot be built against the installation"; }
 }
@@ -57,6 +60,16 @@ pc_flags=$(pkg-config --cflags --libs lintavo) || fail "lintavo.pc is not usable
 "$cxx" $flags "$source_dir/examples/host_cpp/main.cpp" -o "$scratch/pc_host" $pc_flags \
   "-Wl,-rpath,$lib_dir"
 run_host "$scratch/pc_host" "pkg-config"
+
+# The C host, by a C compiler alone.
+cp -r "$source_dir/examples/host_c" "$scratch/host_c"
+build_with_cmake "$scratch/host_c"
+run_host "$scratch/host_c/build/host" "CMake package in C"
+pc_flags=$(pkg-config --cflags --libs lintavo)
+# shellcheck disable=SC2086
+"$cc" $c_flags "$source_dir/examples/host_c/host.c" -o "$scratch/pc_host_c" $pc_flags \
+  "-Wl,-rpath,$lib_dir"
+run_host "$scratch/pc_host_c" "pkg-config in C"
 
 # The drawing library and the command come with their own way to the library.
 if [ -e "$prefix/bin/lintavo" ]; then
@@ -89,6 +102,16 @@ END
     "-Wl,-rpath,$lib_dir"
   "$scratch/pc_painter" "$window" "$scratch/b.svg" || fail "pkg-config: the painter fails"
   cmp "$scratch/a.svg" "$scratch/b.svg"
+
+  pc_flags=$(pkg-config --cflags --libs lintavo-drawing)
+  # shellcheck disable=SC2086
+  "$cc" $c_flags -DWITH_PICTURES "$source_dir/examples/host_c/host.c" -o "$scratch/pc_painter_c" \
+    $pc_flags "-Wl,-rpath,$lib_dir"
+  for host in "$scratch/host_c/build/host" "$scratch/pc_painter_c"; do
+    "$host" "$window" 270 190 "$scratch/c.svg" >/dev/null || fail "the painter in C fails"
+    [ -s "$scratch/c.svg" ] || fail "the painter in C draws nothing"
+    rm "$scratch/c.svg"
+  done
 fi
 
 # A shared library carries its major version in its name.

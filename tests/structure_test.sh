@@ -1,6 +1,7 @@
 #!/bin/bash
 # Checks the order of the rooms: who may include whom, what public headers may
-# show, and that every public header is listed for installation.
+# show, that every public header is listed for installation, and that the C
+# interface is complete.
 #
 # structure_test.sh SOURCE_DIR
 set -euo pipefail
@@ -111,6 +112,17 @@ while read -r file; do
     fault "$(umbrella_of "$file") does not include $file"
   fi
 done < <(find lintavo -mindepth 2 -name '*.h')
+
+# Every member of the façade has its function in C, named by the rule at the head
+# of lintavo/lintavo_c.h.
+members=$(sed -n '/^class LINTAVO_API CFeApi/,/^ private:/p' lintavo/api/CFeApi.h |
+  grep -oE '\b[A-Z][A-Za-z]+\(' | grep -vE '^(CFeApi|FreeBuffer|GetFensterPtr|SetFenster)\(' | tr -d '(' |
+  sed -E 's/([a-z])([A-Z])/\1_\2/g; s/.*/\L&/' | sort -u)
+functions=$(grep -ohE 'lintavo_\w+\(' lintavo/capi/*_c.h |
+  sed -E 's/^lintavo_(window_)?//; s/\($//' | sort -u)
+for member in $(comm -23 <(echo "$members") <(echo "$functions")); do
+  fault "lintavo/capi has no function $member for the façade's member of that name"
+done
 
 # What the front page shows is what is built.
 shown=$(sed -n '/^```cpp$/,/^```$/p' README.md | sed '/^```/d')

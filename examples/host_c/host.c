@@ -41,7 +41,7 @@ static void print_parts(const lintavo_window* window) {
 
 static int draw(const lintavo_window* window, const char* path) {
 #ifdef WITH_PICTURES
-  int status = lintavo_window_draw_to_file(window, lintavo_picture_format_from_path(path), path);
+  int status = lintavo_window_draw_to_file(window, lintavo_picture_format_from_path(path), 0, path);
   if (status != LINTAVO_PICTURE_OK) {
     fprintf(stderr, "%s: %s\n", path, lintavo_picture_status_text(status));
   }

@@ -46,6 +46,14 @@ void CFeApi::DeleteFenster() {
   if (pFenster_) Geschuetzt([&] { pFenster_->Delete(); });
 }
 
+int CFeApi::SetFenster(const CMFenster& fenster) {
+  if (!pFenster_) return 0;
+  return Geschuetzt(0, [&] {
+    *pFenster_ = fenster;
+    return 1;
+  });
+}
+
 long CFeApi::GetErrorID() const {
   return pFenster_ ? pFenster_->GetFehler() : -1;
 }

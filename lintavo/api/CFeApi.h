@@ -48,6 +48,12 @@ class LINTAVO_API CFeApi {
 
   /// Empties the window; the object stays usable.
   void DeleteFenster();
+  /// The window behind the façade, for C++ that works on the model too; it
+  /// belongs to the façade. Null when there is no window object.
+  const CMFenster* GetFensterPtr() const { return pFenster_; }
+  /// Takes over a copy of a window that was made otherwise, as it is, last
+  /// calculation included.
+  int SetFenster(const CMFenster& fenster);
 
   // --- errors -------------------------------------------------------------
 

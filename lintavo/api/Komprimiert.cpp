@@ -13,8 +13,9 @@ bool LiesKomprimiert(const CString& path, KomprimierterText& text) {
   uLongf length = kKomprimiertMax;
   // A damaged or cut stream is not an error here, on purpose: what could be
   // inflated is parsed, and the area counts whole then.
-  const int result = uncompress(reinterpret_cast<Bytef*>(text.Bytes), &length,
-                                reinterpret_cast<const Bytef*>(input.data()), input.size());
+  const int result =
+      uncompress(reinterpret_cast<Bytef*>(text.Bytes), &length,
+                 reinterpret_cast<const Bytef*>(input.data()), static_cast<uLong>(input.size()));
   text.lLaenge = result == Z_OK ? static_cast<long>(length) : kKomprimiertMax;
   return true;
 }

@@ -1,11 +1,18 @@
 // Opening, reading and listing.
 #include <algorithm>
+#include <cstring>
 #include <filesystem>
+#include <string>
+#include <string_view>
 #include <system_error>
 
 #include "lintavo/platform/Files_intern.h"
 
-#ifndef _WIN32
+#ifdef _WIN32
+#define WIN32_LEAN_AND_MEAN
+#define NOMINMAX
+#include <windows.h>
+#else
 #include <sys/stat.h>
 #endif
 
@@ -32,7 +39,46 @@ bool IsFolder(std::FILE*) {
   return false;
 }
 
+// Paths are UTF-8. Bytes that are none are left to the system's own code page, in
+// which older hosts hand them over.
+bool ToWide(std::string_view text, std::wstring& wide) {
+  const int size = static_cast<int>(text.size());
+  const int length =
+      MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text.data(), size, nullptr, 0);
+  if (length == 0) return false;
+  wide.resize(static_cast<std::size_t>(length));
+  return MultiByteToWideChar(CP_UTF8, 0, text.data(), size, wide.data(), length) == length;
+}
+
+std::FILE* Open(const CString& path, const char* mode) {
+  std::wstring wide;
+  if (!ToWide(path.View(), wide)) return std::fopen(path, mode);
+  return ::_wfopen(wide.c_str(), std::wstring(mode, mode + std::strlen(mode)).c_str());
+}
+
+fs::path ToSystemPath(const CString& path) {
+  std::wstring wide;
+  return ToWide(path.View(), wide) ? fs::path(wide) : fs::path(std::string(path.View()));
+}
+
+CString FromSystemPath(const fs::path& path) {
+  const std::u8string text = path.u8string();
+  return std::string(text.begin(), text.end());
+}
+
 #else
+
+std::FILE* Open(const CString& path, const char* mode) {
+  return std::fopen(path, mode);
+}
+
+fs::path ToSystemPath(const CString& path) {
+  return path.View();
+}
+
+CString FromSystemPath(const fs::path& path) {
+  return path.string();
+}
 
 constexpr char kSeparator = '/';
 
@@ -84,7 +130,7 @@ namespace lintavo {
 FilePtr OpenFile(const CString& path, const char* mode) {
   const bool reading = mode[0] == 'r';
   const CString found = reading ? PathToRead(path) : PathToWrite(path);
-  FilePtr file(std::fopen(found, mode));
+  FilePtr file(Open(found, mode));
   // Elsewhere than on Windows a folder opens for reading like an empty file.
   if (file != nullptr && IsFolder(file.get())) file.reset();
   return file;
@@ -106,12 +152,12 @@ CString ExistingPath(const CString& path) {
 std::vector<FolderEntry> ListFolder(const CString& folder) {
   std::vector<FolderEntry> entries;
   std::error_code error;
-  fs::directory_iterator place(fs::path(ExistingPath(folder).View()), error);
+  fs::directory_iterator place(ToSystemPath(ExistingPath(folder)), error);
   for (const fs::directory_iterator end; !error && place != end; place.increment(error)) {
     std::error_code unknown;
     const bool isFolder = place->symlink_status(unknown).type() == fs::file_type::directory;
     if (!isFolder && !place->is_regular_file(unknown)) continue;
-    entries.push_back({place->path().filename().string(), isFolder});
+    entries.push_back({FromSystemPath(place->path().filename()), isFolder});
   }
   return entries;
 }

@@ -8,12 +8,14 @@
 # Compilers and tools count as present when their command is, wherever it came
 # from; libraries only as packages.
 BUILD_PACKAGES=(g++ cmake ninja-build pkgconf zlib1g-dev libpolyclipping-dev libcairo2-dev
-  libcli11-dev libgtest-dev libexpat1-dev locales)
-CHECK_PACKAGES=(clang-format)
+  libcli11-dev libgtest-dev libexpat1-dev locales python3)
+CHECK_PACKAGES=(clang-format valgrind)
+WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev googletest)
+WINE_PACKAGES=(wine64)
 
 command_of() {
   case $1 in
-    g++ | cmake | clang-format) echo "$1" ;;
+    g++ | cmake | clang-format | python3 | valgrind) echo "$1" ;;
     ninja-build) echo ninja ;;
     pkgconf) echo pkg-config ;;
   esac

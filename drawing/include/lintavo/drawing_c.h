@@ -18,6 +18,15 @@ enum {
   LINTAVO_FORMAT_PNG = 2  /**< the longer side is 1600 pixels; white ground */
 };
 
+/** What a picture shows: any of these added up. 0: filled shapes seen from inside,
+ * with dimensions and opening symbols. */
+enum {
+  LINTAVO_VON_AUSSEN = 1,   /**< seen from outside */
+  LINTAVO_OHNE_MASZE = 2,   /**< without dimension lines and their texts */
+  LINTAVO_OHNE_SYMBOLE = 4, /**< without opening symbols */
+  LINTAVO_NUR_SICHTBARE = 8 /**< visible edges instead of filled shapes */
+};
+
 /** How making a picture ended. Note that success is 0 here. */
 enum {
   LINTAVO_PICTURE_OK = 0,
@@ -25,7 +34,8 @@ enum {
   LINTAVO_PICTURE_UNBOUNDED = 2,   /**< a coordinate or the extent is no finite number */
   LINTAVO_PICTURE_FAILED = 3,      /**< the graphics library reported an error */
   LINTAVO_PICTURE_NOT_WRITTEN = 4, /**< the file cannot be opened or written in full */
-  LINTAVO_PICTURE_BAD_ARGUMENT = 5 /**< a null argument or an unknown format */
+  LINTAVO_PICTURE_NO_GRAPHICS = 5, /**< the library was built without a graphics library */
+  LINTAVO_PICTURE_BAD_ARGUMENT = 6 /**< a null argument, an unknown format or option */
 };
 
 /** One English sentence part for a status, "ok" for LINTAVO_PICTURE_OK. The text
@@ -36,15 +46,15 @@ LINTAVO_DRAWING_API const char* lintavo_picture_status_text(int status);
  * -1 for any other ending. */
 LINTAVO_DRAWING_API int lintavo_picture_format_from_path(const char* path);
 
-/** Draws the calculated window and replaces the block's content by the picture.
+/** Draws the calculated window as `options` say and replaces the block's content by the picture.
  * Returns LINTAVO_PICTURE_...; unless that is OK the content is left as it was. */
-LINTAVO_DRAWING_API int lintavo_window_draw(const lintavo_window* window, int format,
+LINTAVO_DRAWING_API int lintavo_window_draw(const lintavo_window* window, int format, int options,
                                             lintavo_bytes* picture);
 
-/** Draws the calculated window into the file `path`, replacing one of that name.
+/** Draws the calculated window as `options` say into the file `path`, replacing one of that name.
  * Returns LINTAVO_PICTURE_...; nothing is opened when drawing fails. */
 LINTAVO_DRAWING_API int lintavo_window_draw_to_file(const lintavo_window* window, int format,
-                                                    const char* path);
+                                                    int options, const char* path);
 
 #ifdef __cplusplus
 }

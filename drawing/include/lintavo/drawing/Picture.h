@@ -14,10 +14,11 @@ enum class PictureFormat { kSvg, kPdf, kPng };
 /// How making a picture ended.
 enum class PictureStatus {
   kOk,
-  kEmpty,      ///< the scene has nothing to draw
-  kUnbounded,  ///< a coordinate or the extent is no finite number
-  kFailed,     ///< the graphics library reported an error
-  kNotWritten  ///< the file cannot be opened or written in full
+  kEmpty,       ///< the scene has nothing to draw
+  kUnbounded,   ///< a coordinate or the extent is no finite number
+  kFailed,      ///< the graphics library reported an error
+  kNotWritten,  ///< the file cannot be opened or written in full
+  kNoGraphics   ///< the library was built without a graphics library
 };
 
 /// One English sentence part for a status, "ok" for `kOk`. The text is static.

@@ -1,0 +1,45 @@
+#!/bin/bash
+# Makes the pair of Debian packages from this build, unpacks both into an empty
+# folder and looks at what they hold and ask for.
+#
+# debian_test.sh BUILD_DIR CPACK WINDOW
+set -euo pipefail
+
+fail() {
+  echo "debian_test: $*" >&2
+  exit 1
+}
+
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+"$2" --config "$1/CPackConfig.cmake" -B "$scratch/packages" >"$scratch/log" 2>&1 ||
+  { cat "$scratch/log"; fail "cpack fails"; }
+
+runtime=$(echo "$scratch"/packages/lintavo_*.deb)
+development=$(echo "$scratch"/packages/lintavo-dev_*.deb)
+[ -e "$runtime" ] && [ -e "$development" ] || fail "cpack made: $(ls "$scratch/packages")"
+
+field() { dpkg-deb --field "$1" "$2"; }
+[[ $(field "$runtime" Depends) == *zlib1g* ]] || fail "the runtime package asks for no zlib"
+[[ $(field "$runtime" Depends) == *libcairo2* ]] || fail "the runtime package asks for no cairo"
+[ "$(field "$development" Depends)" = "lintavo (= $(field "$runtime" Version))" ] ||
+  fail "lintavo-dev depends on: $(field "$development" Depends)"
+
+dpkg-deb --extract "$runtime" "$scratch/runtime"
+dpkg-deb --extract "$development" "$scratch/development"
+find_in() { find "$scratch/$1" -name "$2" | grep -q . || fail "no $2 in the $1 package"; }
+for name in lintavo 'liblintavo.so.1' 'liblintavo-drawing.so.1'; do find_in runtime "$name"; done
+for name in liblintavo.so CFeApi.h lintavo_c.h drawing_c.h lintavo.pc lintavo-drawing.pc \
+  lintavoConfig.cmake; do
+  find_in development "$name"
+done
+if find "$scratch/runtime" -name '*.h' -o -name '*.so' | grep .; then
+  fail "files for development are in the runtime package"
+fi
+if (cd "$scratch" && find runtime -type f | sed 's/^runtime//' | sort) |
+  comm -12 - <(cd "$scratch" && find development -type f | sed 's/^development//' | sort) |
+  grep .; then
+  fail "these files are in both packages"
+fi
+"$scratch/runtime/usr/bin/lintavo" show "$3" >/dev/null || fail "the packed command fails"
+echo "debian_test: in order"
