@@ -65,9 +65,25 @@ TEST(Picture, LinesAndTextsComeOutOnce) {
   scene.texts.push_back({1, {-20.0, 50.0}, 5.0, true, "100.5"});
   const auto svg = ParseSvg(Render(scene, PictureFormat::kSvg));
   EXPECT_TRUE(svg.wellFormed);
-  EXPECT_EQ(svg.paths, 1 + 3);
+  EXPECT_EQ(svg.paths, 1 + 3 + 2);
   EXPECT_EQ(svg.dashed, 1);
-  EXPECT_EQ(svg.texts, 2);
+}
+
+TEST(Picture, LetteringFillsTheBoxOfItsText) {
+  // Alone on the page, the digits reach from margin to margin but for half a pen, a
+  // tenth of their height: the box is as high as the digits and 3.5 times as long.
+  Scene scene;
+  scene.texts.push_back({0, {7.0, 3.0}, 10.0, false, "80269"});
+  Box box;
+  ASSERT_TRUE(GetBox(scene, box));
+  EXPECT_NEAR(box.top - box.bottom, 10.0, 1e-9);
+  // Five digits of 0.56 and four gaps of 0.24, drawn in 0.9 of the height, and the pen.
+  EXPECT_NEAR(box.right - box.left, 10.0 * (0.9 * (5 * 0.56 + 4 * 0.24) + 0.1), 1e-9);
+  const auto svg = ParseSvg(Render(scene, PictureFormat::kSvg));
+  const double pen = 1472.0 / (box.right - box.left);  // a tenth of the digits' height
+  EXPECT_NEAR(svg.left, 64.0 + pen / 2.0, 0.01);
+  EXPECT_NEAR(svg.right, 1536.0 - pen / 2.0, 0.01);
+  EXPECT_NEAR(svg.bottom - svg.top, 9.0 * pen, 0.01);
 }
 
 TEST(Picture, UpInTheWindowIsUpOnPaper) {

@@ -161,6 +161,11 @@ double CFeApi::GetRahmenBauteilDicke(long lArt, long i) const {
   return bauteil ? bauteil->dDicke : 0.0;
 }
 
+long CFeApi::GetRahmenBauteilTyp(long lArt, long i) const {
+  const CMBauteil* bauteil = BauteilDerArt(Rahmen(), lArt, i, false);
+  return bauteil ? bauteil->lTyp : -1;
+}
+
 int CFeApi::GetRahmenBauteilUmriss(long lArt, long i, long lSegment, CFeApiPolygon& umriss,
                                    double& dLaenge, double& dWinkelAnfang,
                                    double& dWinkelEnde) const {
@@ -247,6 +252,11 @@ long CFeApi::GetFluegelAnzahlBauteilSegmente(long lArt, long iFluegel, long i) c
 double CFeApi::GetFluegelBauteilDicke(long lArt, long iFluegel, long i) const {
   const CMBauteil* bauteil = BauteilDerArt(Fluegel(iFluegel), lArt, i, true);
   return bauteil ? bauteil->dDicke : 0.0;
+}
+
+long CFeApi::GetFluegelBauteilTyp(long lArt, long iFluegel, long i) const {
+  const CMBauteil* bauteil = BauteilDerArt(Fluegel(iFluegel), lArt, i, true);
+  return bauteil ? bauteil->lTyp : -1;
 }
 
 int CFeApi::GetFluegelBauteilUmriss(long lArt, long iFluegel, long i, long lSegment,

@@ -12,13 +12,6 @@
 namespace lintavo::testing {
 namespace {
 
-// The reader's place in the file.
-struct Reader {
-  SvgFile svg;
-  bool inDefinitions = false;  // of the letters' shapes
-  bool inText = false;
-};
-
 const char* Attribute(const XML_Char** attributes, const char* name) {
   for (int i = 0; attributes[i] != nullptr; i += 2) {
     if (std::strcmp(attributes[i], name) == 0) return attributes[i + 1];
@@ -38,7 +31,7 @@ void Widen(double x, double y, SvgFile& svg) {
   svg.bottom = std::max(svg.bottom, y);
 }
 
-// Paths consist of straight lines: letters for the command, pairs of numbers.
+// Paths are letters for the commands and pairs of numbers.
 void ReadPath(const char* text, SvgFile& svg) {
   double pair[2];
   int count = 0;
@@ -57,32 +50,15 @@ void ReadPath(const char* text, SvgFile& svg) {
 }
 
 void OnElement(void* data, const XML_Char* name, const XML_Char** attributes) {
-  Reader& reader = *static_cast<Reader*>(data);
-  SvgFile& svg = reader.svg;
+  SvgFile& svg = *static_cast<SvgFile*>(data);
   if (svg.root.empty()) {
     svg.root = name;
     svg.viewBox = Attribute(attributes, "viewBox");
   }
-  if (std::strcmp(name, "defs") == 0) reader.inDefinitions = true;
-  if (reader.inDefinitions) return;
-  if (std::strcmp(name, "path") == 0) {
-    ++svg.paths;
-    if (IsDashed(attributes)) ++svg.dashed;
-    ReadPath(Attribute(attributes, "d"), svg);
-  }
-  // Each text is a group of letters, used from the definitions.
-  if (std::strcmp(name, "use") == 0) {
-    if (!reader.inText) ++svg.texts;
-    reader.inText = true;
-    Widen(std::strtod(Attribute(attributes, "x"), nullptr),
-          std::strtod(Attribute(attributes, "y"), nullptr), svg);
-  }
-}
-
-void OnElementEnd(void* data, const XML_Char* name) {
-  Reader& reader = *static_cast<Reader*>(data);
-  if (std::strcmp(name, "defs") == 0) reader.inDefinitions = false;
-  if (std::strcmp(name, "g") == 0) reader.inText = false;
+  if (std::strcmp(name, "path") != 0) return;
+  ++svg.paths;
+  if (IsDashed(attributes)) ++svg.dashed;
+  ReadPath(Attribute(attributes, "d"), svg);
 }
 
 unsigned BigEndianAt(const std::string& bytes, std::size_t i) {
@@ -96,14 +72,14 @@ unsigned BigEndianAt(const std::string& bytes, std::size_t i) {
 }  // namespace
 
 SvgFile ParseSvg(const std::string& text) {
-  Reader reader;
+  SvgFile svg;
   XML_Parser parser = XML_ParserCreate(nullptr);
-  XML_SetUserData(parser, &reader);
-  XML_SetElementHandler(parser, OnElement, OnElementEnd);
-  reader.svg.wellFormed =
+  XML_SetUserData(parser, &svg);
+  XML_SetElementHandler(parser, OnElement, nullptr);
+  svg.wellFormed =
       XML_Parse(parser, text.data(), static_cast<int>(text.size()), 1) == XML_STATUS_OK;
   XML_ParserFree(parser);
-  return reader.svg;
+  return svg;
 }
 
 std::string ReadBytes(const std::string& path) {

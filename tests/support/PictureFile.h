@@ -9,10 +9,9 @@ struct SvgFile {
   bool wellFormed = false;
   std::string root;  ///< name of the outermost element
   std::string viewBox;
-  int paths = 0;   ///< filled or stroked; letters are none
-  int dashed = 0;  ///< of them, stroked with dashes
-  int texts = 0;
-  double left = 1e300;  ///< smallest box of the corners of all paths and the letters' origins
+  int paths = 0;        ///< filled or stroked; a text is one
+  int dashed = 0;       ///< of them, stroked with dashes
+  double left = 1e300;  ///< smallest box of the corners and control points of all paths
   double top = 1e300;
   double right = -1e300;
   double bottom = -1e300;
