@@ -6,6 +6,8 @@
 #include <cmath>
 
 #include "lintavo/api/CFeApi.h"
+#include "lintavo/geom/Seitendeckung.h"
+#include "lintavo/geom/Toleranzen.h"
 
 namespace lintavo::fuzz {
 
@@ -13,6 +15,7 @@ namespace {
 
 constexpr std::array<long, 4> kFalscheIndizes = {-1, 1000, LONG_MAX, LONG_MIN};
 constexpr std::array<long, 5> kArten = {1, 2, 3, 0, LONG_MIN};
+constexpr long kPfosten = 2;
 constexpr std::array<double, 6> kUnsinn = {-1.0, 0.0, NAN, INFINITY, 1e308, 1e-7};
 
 using Zahlen = std::vector<double>;
@@ -158,6 +161,17 @@ void SammleOeffnung(const CFeApi& f, Zahlen& zahlen) {
   }
 }
 
+GEOM2_Polygon UmrissDesPfostens(const CFeApi& f, long i) {
+  CFeApiPolygon polygon;
+  double unused = 0.0;
+  GEOM2_Polygon outline;
+  if (f.GetRahmenBauteilUmriss(kPfosten, i, -1, polygon, unused, unused, unused) == 0) {
+    return outline;
+  }
+  for (int n = 0; n < polygon.lAnzahl; ++n) outline.AddPunkt(polygon.pdX[n], polygon.pdY[n]);
+  return outline;
+}
+
 }  // namespace
 
 Antworten FrageAlles(CFeApi& f, bool mitZeichnungen) {
@@ -233,6 +247,17 @@ CFeApiWandOeffnungsParameter Laibung() {
   param.dLeibungB = -1.0;
   param.dLeibungD = 3.0;
   return param;
+}
+
+bool PfostenUeberlappen(const CFeApi& f) {
+  std::vector<GEOM2_Polygon> outlines;
+  for (long i = 0; i < f.GetAnzahlRahmenBauteile(kPfosten); ++i) {
+    outlines.push_back(UmrissDesPfostens(f, i));
+    for (std::size_t n = 0; n + 1 < outlines.size(); ++n) {
+      if (PolygoneUeberlappen(outlines[n], outlines.back(), kUeberlappung)) return true;
+    }
+  }
+  return false;
 }
 
 std::string Geschrieben(const CFeApi& f) {

@@ -32,6 +32,9 @@ void SetzeUnsinn(CFeApi& fenster);
 /// Reveals of every kind, one of them splayed.
 CFeApiWandOeffnungsParameter Laibung();
 
+/// Whether mullions or transoms of the window overlap each other.
+bool PfostenUeberlappen(const CFeApi& fenster);
+
 /// The bytes of `WriteToBuffer`.
 std::string Geschrieben(const CFeApi& fenster);
 
