@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <limits>
 #include <numeric>
 
 #include <gtest/gtest.h>
@@ -32,10 +33,10 @@ std::string Lies(const std::string& path) {
 std::string Komprimiert(const std::string& text) {
   std::string crlf;
   for (const char c : text) crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
-  uLongf length = compressBound(crlf.size());
+  uLongf length = compressBound(static_cast<uLong>(crlf.size()));
   std::string bytes(length, '\0');
   EXPECT_EQ(compress(reinterpret_cast<Bytef*>(bytes.data()), &length,
-                     reinterpret_cast<const Bytef*>(crlf.data()), crlf.size()),
+                     reinterpret_cast<const Bytef*>(crlf.data()), static_cast<uLong>(crlf.size())),
             Z_OK);
   bytes.resize(length);
   return bytes;
@@ -244,7 +245,8 @@ TEST(Fassade, AnEmptyWindowAndBadIndicesAnswerFailureValues) {
   EXPECT_EQ(api.GetFensterBreite(), 0.0);
   EXPECT_EQ(api.Berechne(), 1);
   ASSERT_EQ(api.ReadFromFile(BeispielPfad("raster_3x3.aqz").c_str()), 1);
-  for (const long i : {-1L, 9L, 1L << 40, -(1L << 40)}) {
+  for (const long i :
+       {-1L, 9L, std::numeric_limits<long>::max(), std::numeric_limits<long>::min()}) {
     EXPECT_EQ(api.GetFluegelName(i, name), 0);
     EXPECT_EQ(api.GetAnzahlSprossen(i), -1);
     EXPECT_EQ(api.GetFluegelRahmenBreite(i), 0.0);

@@ -132,7 +132,8 @@ TEST(Zeichnungen, AnyIndexOnAnyWindowIsAnswered) {
   CFeApi fresh;
   CFeApi full = Fenster("");
   for (CFeApi* api : {&fresh, &failed, &full}) {
-    for (const long i : {-1L, 0L, 3L, 1L << 40, -(1L << 40)}) {
+    for (const long i :
+         {-1L, 0L, 3L, std::numeric_limits<long>::max(), std::numeric_limits<long>::min()}) {
       if (api == &full && i == 0) continue;
       CFeApiStrecken lines;
       CFeApiPolygon p;

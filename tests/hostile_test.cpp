@@ -58,10 +58,10 @@ std::string MitCrLf(const std::string& text) {
 }
 
 std::string Gepackt(const std::string& text) {
-  std::string stream(compressBound(text.size()), '\0');
-  uLongf length = stream.size();
+  std::string stream(compressBound(static_cast<uLong>(text.size())), '\0');
+  uLongf length = static_cast<uLongf>(stream.size());
   compress(reinterpret_cast<Bytef*>(stream.data()), &length,
-           reinterpret_cast<const Bytef*>(text.data()), text.size());
+           reinterpret_cast<const Bytef*>(text.data()), static_cast<uLong>(text.size()));
   stream.resize(length);
   return stream;
 }
