@@ -3,6 +3,7 @@
 #include <cmath>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include <benchmark/benchmark.h>
 
@@ -119,6 +120,18 @@ void RasterBerechnen(benchmark::State& state, bool mitPfosten) {
       benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
+// The front view with hidden lines removed, from inside.
+void RasterAnsicht(benchmark::State& state) {
+  const int side = static_cast<int>(std::lround(std::sqrt(static_cast<double>(state.range(0)))));
+  CMFenster fenster = Raster(side);
+  if (!fenster.Berechne(true)) state.SkipWithError("the grid cannot be calculated");
+  std::vector<CMStrecke> lines;
+  for (auto _ : state) benchmark::DoNotOptimize(fenster.GetHiddenLineBild(lines, false));
+  state.counters["je_Fluegel"] = benchmark::Counter(
+      static_cast<double>(state.range(0)),
+      benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+
 #define JE_BEISPIEL(operation)                                                        \
   BENCHMARK_CAPTURE(operation, drehkipp_einfluegelig, "drehkipp_einfluegelig");       \
   BENCHMARK_CAPTURE(operation, dreiteilig_mit_oberlicht, "dreiteilig_mit_oberlicht"); \
@@ -145,5 +158,7 @@ BENCHMARK_CAPTURE(RasterBerechnen, mit_Pfosten, true)
     ->Arg(64)
     ->Arg(256)
     ->Arg(400);
+
+BENCHMARK(RasterAnsicht)->Arg(1)->Arg(4)->Arg(16)->Arg(64)->Arg(256)->Arg(400);
 
 }  // namespace

@@ -15,6 +15,8 @@ namespace {
 // from its middle.
 constexpr double kHeights[] = {1.0, 0.8, 0.65};
 constexpr double kPlaces[] = {0.0, 0.15, -0.15, 0.3, -0.3, 0.42, -0.42};
+// How many digit heights a text may stand off its line where it would lie on another.
+constexpr double kStandOff[] = {0.0, 0.7, 1.4};
 // How many arrowheads beyond the end of a short dimension its text begins.
 constexpr double kBeyondArrow = 2.3;
 
@@ -100,28 +102,37 @@ class Placer {
   void TryAll(const Dimension& dimension, Text text, const std::vector<Segment>& near) {
     const double length =
         dimension.upright ? dimension.to.y - dimension.from.y : dimension.to.x - dimension.from.x;
-    for (const double height : kHeights) {
-      text.hoehe = height * sizes_.text;
-      const double half = HalfLength(text);
-      if (2.0 * half > length) continue;
-      for (const double place : kPlaces) {
-        const double along = length * (0.5 + place);
-        if (along < half || along > length - half) continue;
-        if (TryBothSides(dimension, along, text, near)) return;
+    for (const double standOff : kStandOff) {
+      for (const double height : kHeights) {
+        text.hoehe = height * sizes_.text;
+        if (TryAlong(dimension, length, standOff * text.hoehe, text, near)) return;
       }
     }
     text.hoehe = sizes_.text;
     const double beyond = HalfLength(text) + kBeyondArrow * sizes_.arrowLength;
     if (TryOnLine(dimension, length + beyond, text, near)) return;
     if (TryOnLine(dimension, -beyond, text, near)) return;
-    if (TryBothSides(dimension, length + beyond, text, near)) return;
-    TryBothSides(dimension, -beyond, text, near);
+    if (TryBothSides(dimension, length + beyond, 0.0, text, near)) return;
+    TryBothSides(dimension, -beyond, 0.0, text, near);
+  }
+
+  // The places between the ends of the line, from its middle outwards.
+  bool TryAlong(const Dimension& dimension, double length, double standOff, Text& text,
+                const std::vector<Segment>& near) {
+    const double half = HalfLength(text);
+    if (2.0 * half > length) return false;
+    for (const double place : kPlaces) {
+      const double along = length * (0.5 + place);
+      if (along < half || along > length - half) continue;
+      if (TryBothSides(dimension, along, standOff, text, near)) return true;
+    }
+    return false;
   }
 
   // Above the line, then below it; left of an upright one, then to its right.
-  bool TryBothSides(const Dimension& dimension, double along, Text& text,
+  bool TryBothSides(const Dimension& dimension, double along, double standOff, Text& text,
                     const std::vector<Segment>& near) {
-    const double across = sizes_.gap + text.hoehe / 2.0;
+    const double across = sizes_.gap + text.hoehe / 2.0 + standOff;
     return Try(dimension, along, across, text, near) || Try(dimension, along, -across, text, near);
   }
 

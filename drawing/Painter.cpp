@@ -1,10 +1,14 @@
 // Puts a scene onto a Cairo surface: the layout on paper and the colours.
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <string_view>
 
 #include "lintavo/geom/Toleranzen.h"
 
+#include "Lettering_intern.h"
 #include "Painter_intern.h"
 
 namespace lintavo::drawing {
@@ -15,9 +19,6 @@ constexpr double kMarginShare = 0.04;
 constexpr double kStrokeShare = 0.0009;
 constexpr double kDashShare = 0.008;
 constexpr double kDashGapShare = 0.005;
-
-// The size at which a font's digits are measured.
-constexpr double kSampleSize = 100.0;
 
 constexpr double kQuarterTurn = -1.5707963267948966;
 
@@ -174,46 +175,58 @@ void PaintLine(cairo_t* cairo, const Line& line, const Layout& layout, double lo
   cairo_stroke(cairo);
 }
 
-// Letters keep their proportions at every size, so a text fits where it was placed.
-void SelectFont(cairo_t* cairo) {
-  cairo_font_options_t* options = cairo_font_options_create();
-  cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
-  cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
-  cairo_set_font_options(cairo, options);
-  cairo_font_options_destroy(options);
-  cairo_select_font_face(cairo, "sans-serif", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
+// Reads the numbers that follow a word of a letter's path.
+template <std::size_t N>
+std::array<double, N> ReadNumbers(std::string_view& path) {
+  std::array<double, N> numbers{};
+  for (double& number : numbers) {
+    path.remove_prefix(std::min(path.find_first_not_of(' '), path.size()));
+    const auto result = std::from_chars(path.data(), path.data() + path.size(), number);
+    path.remove_prefix(static_cast<std::size_t>(result.ptr - path.data()));
+  }
+  return numbers;
 }
 
-// The font size at which digits are as high as asked for, or lower where the text
-// would be longer than its box.
-double FontSize(cairo_t* cairo, const std::string& text, double height, double length) {
-  cairo_text_extents_t digit;
-  cairo_text_extents_t whole;
-  cairo_set_font_size(cairo, kSampleSize);
-  cairo_text_extents(cairo, "0", &digit);
-  cairo_text_extents(cairo, text.c_str(), &whole);
-  if (!(digit.height > 0.0) || !(whole.width > 0.0)) return 0.0;
-  return kSampleSize * std::min(height / digit.height, length / whole.width);
+// Adds a letter's strokes to the path, its lower left corner at the origin.
+void TraceLetter(cairo_t* cairo, std::string_view path) {
+  while (!path.empty()) {
+    const char word = path.front();
+    path.remove_prefix(1);
+    if (word == 'M') {
+      const auto p = ReadNumbers<2>(path);
+      cairo_move_to(cairo, p[0], p[1]);
+    } else if (word == 'L') {
+      const auto p = ReadNumbers<2>(path);
+      cairo_line_to(cairo, p[0], p[1]);
+    } else if (word == 'C') {
+      const auto p = ReadNumbers<6>(path);
+      cairo_curve_to(cairo, p[0], p[1], p[2], p[3], p[4], p[5]);
+    }
+  }
 }
 
 void PaintText(cairo_t* cairo, const Text& text, const Layout& layout) {
-  const Box box = GetBox(text);
-  const double length = text.upright ? box.top - box.bottom : box.right - box.left;
-  const double size =
-      FontSize(cairo, text.inhalt, text.hoehe * layout.scale, length * layout.scale);
-  if (!std::isnormal(size)) return;
-  cairo_text_extents_t extents;
-  cairo_set_font_size(cairo, size);
-  cairo_text_extents(cairo, text.inhalt.c_str(), &extents);
+  const double height = text.hoehe * layout.scale;
+  const double hundredth = height * (1.0 - kPenWidth) / 100.0;
+  if (!std::isnormal(hundredth) || text.inhalt.empty()) return;
   const Point paper = ToPaper(layout, text.mitte);
+  const double length = LetteringWidth(text.inhalt) * height;
   cairo_save(cairo);
-  SetColour(cairo, kMeasureInk);
+  cairo_new_path(cairo);
   cairo_translate(cairo, paper.x, paper.y);
   if (text.upright) cairo_rotate(cairo, kQuarterTurn);
-  cairo_move_to(cairo, -extents.x_bearing - extents.width / 2.0,
-                -extents.y_bearing - extents.height / 2.0);
-  cairo_show_text(cairo, text.inhalt.c_str());
+  cairo_translate(cairo, (kPenWidth * height - length) / 2.0, 50.0 * hundredth);
+  cairo_scale(cairo, hundredth, -hundredth);
+  for (const char character : text.inhalt) {
+    const Letter& letter = LetterOf(character);
+    TraceLetter(cairo, letter.path);
+    cairo_translate(cairo, letter.width + kLetterGap, 0.0);
+  }
   cairo_restore(cairo);
+  SetColour(cairo, kMeasureInk);
+  cairo_set_dash(cairo, nullptr, 0, 0.0);
+  cairo_set_line_width(cairo, kPenWidth * height);
+  cairo_stroke(cairo);
 }
 
 }  // namespace
@@ -239,7 +252,6 @@ void PaintScene(cairo_t* cairo, const Scene& scene, const Layout& layout) {
   cairo_set_line_cap(cairo, CAIRO_LINE_CAP_ROUND);
   for (const Shape& shape : scene.shapes) PaintShape(cairo, shape, layout, longSide);
   for (const Line& line : scene.lines) PaintLine(cairo, line, layout, longSide);
-  SelectFont(cairo);
   for (const Text& text : scene.texts) PaintText(cairo, text, layout);
 }
 

@@ -13,6 +13,9 @@ namespace {
 // The façade's numbers for the kinds of components.
 constexpr long kArtRahmenteile = 1;
 constexpr long kArtEinzelteile = 2;
+
+// Outer extra parts among them.
+constexpr long kTypAussen = 3;
 constexpr long kArtSprossen = 3;
 
 // The façade's segment number for the joined outline of a bent part.
@@ -75,49 +78,12 @@ void AddLamellen(const CFeApi& window, long fluegel, Scene& scene) {
   }
 }
 
-// Whether a point lies within an outline, by the crossings of a ray to the right.
-bool IsInside(const std::vector<Point>& outline, const Point& point) {
-  bool inside = false;
-  for (std::size_t i = 0; i < outline.size(); ++i) {
-    const Point& a = outline[i];
-    const Point& b = outline[i + 1 < outline.size() ? i + 1 : 0];
-    if ((a.y > point.y) == (b.y > point.y)) continue;
-    if (point.x < a.x + (b.x - a.x) * (point.y - a.y) / (b.y - a.y)) inside = !inside;
-  }
-  return inside;
-}
-
-Point Mean(const std::vector<Point>& outline) {
-  Point mean;
-  for (const Point& point : outline) {
-    mean.x += point.x / static_cast<double>(outline.size());
-    mean.y += point.y / static_cast<double>(outline.size());
-  }
-  return mean;
-}
-
-// The outer outline of the frame, without the extra parts around it. A part's outline
-// runs along its outer side first and then back along its inner side.
-std::vector<Point> RahmenOutline(const CFeApi& window) {
-  std::vector<Point> ring;
-  const long count = window.GetAnzahlRahmenBauteile(kArtRahmenteile);
-  for (long i = 0; i < count; ++i) {
-    CFeApiPolygon polygon;
-    if (!RahmenUmriss(window, kArtRahmenteile, i, polygon)) continue;
-    const std::vector<Point> outline = ToOutline(polygon);
-    ring.insert(ring.end(), outline.begin(),
-                outline.begin() + static_cast<std::ptrdiff_t>(outline.size() / 2));
-  }
-  return ring;
-}
-
-// Mullions and transoms lie within the frame, extra parts around it.
+// Mullions and transoms, or the extra parts around the frame.
 void AddEinzelteile(const CFeApi& window, bool aussen, Scene& scene) {
-  const std::vector<Point> rahmen = RahmenOutline(window);
   for (long i = window.GetAnzahlRahmenBauteile(kArtEinzelteile) - 1; i >= 0; --i) {
+    if ((window.GetRahmenBauteilTyp(kArtEinzelteile, i) == kTypAussen) != aussen) continue;
     CFeApiPolygon polygon;
     if (!RahmenUmriss(window, kArtEinzelteile, i, polygon)) continue;
-    if (IsInside(rahmen, Mean(ToOutline(polygon))) == aussen) continue;
     AddShape(scene, aussen ? ShapeKind::kZusatzteil : ShapeKind::kEinzelteil, -1, i, polygon);
   }
 }

@@ -11,14 +11,12 @@
 
 #include "Dimensions_intern.h"
 #include "Layers_intern.h"
+#include "Lettering_intern.h"
 #include "Parts_intern.h"
 #include "Symbols_intern.h"
 
 namespace lintavo::drawing {
 namespace {
-
-// Room for a digit, in digit heights; those of common sans-serif fonts are narrower.
-constexpr double kDigitWidth = 0.9;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
@@ -77,7 +75,7 @@ Scene BuildScene(const CFeApi& window, const SceneOptions& options) {
 }
 
 Box GetBox(const Text& text) {
-  const double length = kDigitWidth * text.hoehe * static_cast<double>(text.inhalt.size());
+  const double length = LetteringWidth(text.inhalt) * text.hoehe;
   const double dx = (text.upright ? text.hoehe : length) / 2.0;
   const double dy = (text.upright ? length : text.hoehe) / 2.0;
   return {text.mitte.x - dx, text.mitte.y - dy, text.mitte.x + dx, text.mitte.y + dy};

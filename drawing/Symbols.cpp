@@ -96,20 +96,14 @@ void AddSymbol(const CFeApi& window, long fluegel, ViewSide side, std::size_t fi
 }
 
 void AddFittings(const CFeApi& window, ViewSide side, Scene& scene) {
-  const long count = window.GetAnzahlFluegel();
-  bool any = false;
-  for (long i = 0; i < count && !any; ++i) any = window.GetAnzahlBeschlaege(i) > 0;
-  if (!any) return;
-  // Asking for a fitting may cap its distances: that is left to a copy.
-  CFeApi copy(window);
-  for (long i = 0; i < count; ++i) {
+  for (long i = 0; i < window.GetAnzahlFluegel(); ++i) {
     if (side == ViewSide::kOutside && !OpensTowards(window, i, side)) continue;
     Line kind;
     kind.kind = LineKind::kBeschlag;
     kind.fluegel = i;
-    for (long j = 0; j < copy.GetAnzahlBeschlaege(i); ++j) {
+    for (long j = 0; j < window.GetAnzahlBeschlaege(i); ++j) {
       CFeApiStrecken record;
-      if (copy.GetBeschlagZeichnung(i, j, record) != 1) continue;
+      if (window.GetBeschlagZeichnung(i, j, record) != 1) continue;
       for (const CMStrecke& strecke : ToStrecken(record)) AddLine(strecke, kind, scene);
     }
   }

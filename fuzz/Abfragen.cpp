@@ -105,7 +105,15 @@ void SammleZeichnungen(CFeApi& f, long i, Zahlen& zahlen) {
   }
 }
 
-void SammleFluegel(CFeApi& f, long i, Antworten& antworten) {
+void SammleAnsichten(CFeApi& f, Zahlen& zahlen) {
+  for (const int vonAussen : {0, 1}) {
+    CFeApiStrecken linien;
+    if (f.GetAnsicht(vonAussen, linien) != 0) Sammle(linien, zahlen);
+  }
+  for (long i = 0; i < f.GetAnzahlFluegel(); ++i) SammleZeichnungen(f, i, zahlen);
+}
+
+void SammleFluegel(const CFeApi& f, long i, Antworten& antworten) {
   char text[256];
   f.GetFluegelName(i, text);
   f.GetFluegelGangart(i, text);
@@ -113,7 +121,6 @@ void SammleFluegel(CFeApi& f, long i, Antworten& antworten) {
   f.GetFluegelOeffSeite(i, text);
   SammleFluegelTeile(f, i, antworten);
   SammleFuellung(f, i, antworten);
-  SammleZeichnungen(f, i, antworten.Zeichnungen);
   for (const double d : {0.0, 1.5, -1.5}) {
     CFeApiPolygon polygon;
     if (f.GetFluegelInnenPolygon(i, d, polygon) != 0) Sammle(polygon, antworten.Gebilde);
@@ -167,7 +174,7 @@ GEOM2_Polygon UmrissDesPfostens(const CFeApi& f, long i) {
 
 }  // namespace
 
-Antworten FrageAlles(CFeApi& f) {
+Antworten FrageAlles(CFeApi& f, bool mitZeichnungen) {
   Antworten antworten;
   char text[256];
   f.GetFensterBezeichnung(text);
@@ -178,10 +185,7 @@ Antworten FrageAlles(CFeApi& f) {
   for (long i = 0; i < f.GetAnzahlZusatzMasze(); ++i) SammleMasz(f, i, antworten);
   for (long i = 0; i < f.GetAnzahlFluegel(); ++i) SammleFluegel(f, i, antworten);
   SammleOeffnung(f, antworten.Gebilde);
-  for (const int vonAussen : {0, 1}) {
-    CFeApiStrecken linien;
-    if (f.GetAnsicht(vonAussen, linien) != 0) Sammle(linien, antworten.Zeichnungen);
-  }
+  if (mitZeichnungen) SammleAnsichten(f, antworten.Zeichnungen);
   double box[4];
   if (f.GetBox(12.0, box[0], box[1], box[2], box[3]) != 0) {
     antworten.Angaben.insert(antworten.Angaben.end(), box, box + 4);
@@ -194,6 +198,7 @@ void FrageFalscheIndizes(CFeApi& f) {
   for (const long i : kFalscheIndizes) {
     SammleMasz(f, i, ohne);
     SammleFluegel(f, i, ohne);
+    SammleZeichnungen(f, i, ohne.Zeichnungen);
     CFeApiPolygon polygon;
     CFeApiStrecken linien;
     double v = 0.0;
@@ -222,16 +227,15 @@ void SetzeUnsinn(CFeApi& f) {
       f.SetZMaszLaenge(i, v);
       f.SetZMaszLaengeMitName(i, v);
     }
-    CFeApi copy(f);
-    copy.SetRahmenBreite(v);
-    copy.SetRahmenDicke(v);
-    copy.SetFluegelRahmenBreite(0, v);
-    copy.SetFluegelUeberschlag(0, v);
-    copy.SetZMaszLaengeMitName(0, v);
-    copy.SetBreiteHoehe(Laibung(), v, v);
-    copy.Berechne();
-    FrageAlles(copy);
+    f.SetRahmenBreite(v);
+    f.SetRahmenDicke(v);
+    f.SetFluegelRahmenBreite(0, v);
+    f.SetFluegelUeberschlag(0, v);
+    f.SetZMaszLaengeMitName(0, v);
+    f.SetBreiteHoehe(Laibung(), v, v);
   }
+  f.Berechne();
+  FrageAlles(f, false);
 }
 
 CFeApiWandOeffnungsParameter Laibung() {

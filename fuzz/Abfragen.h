@@ -19,8 +19,9 @@ struct Antworten {
   std::vector<double> Angaben;
 };
 
-/// Asks for everything that the window says it has.
-Antworten FrageAlles(CFeApi& fenster);
+/// Asks for everything that the window says it has; the drawings, which take
+/// most of the time, on request.
+Antworten FrageAlles(CFeApi& fenster, bool mitZeichnungen = true);
 
 /// Asks for what it has not: indices and kinds out of range.
 void FrageFalscheIndizes(CFeApi& fenster);

@@ -31,9 +31,12 @@ CString Wort(FuzzedDataProvider& bytes) {
   }
 }
 
+// A name without white space at its ends and without signs of the format.
 bool IstName(const CString& name) {
-  return name.View().find_first_of("[]=\r\n#") == std::string_view::npos && !name.IsEmpty() &&
-         name.View().front() != ' ' && name.View().back() != ' ';
+  const std::string_view text = name.View();
+  return !text.empty() && static_cast<unsigned char>(text.front()) > ' ' &&
+         static_cast<unsigned char>(text.back()) > ' ' &&
+         text.find_first_of(std::string_view("[]=\r\n\0", 6)) == std::string_view::npos;
 }
 
 void Lies(FuzzedDataProvider& bytes, CExIniFile& document, int operation) {

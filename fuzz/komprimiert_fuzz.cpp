@@ -50,7 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } else {
       fenster.ReadFromFile(path.c_str());
     }
-    lintavo::fuzz::Fordere(lintavo::fuzz::PruefeFenster(fenster));
+    lintavo::fuzz::Fordere(lintavo::fuzz::PruefeFenster(fenster, static_cast<int>(size % 3)));
   }
   CFeApi::GetValidMakroFile(ordner.Pfad("").c_str(), name);
   return 0;

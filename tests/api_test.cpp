@@ -184,6 +184,34 @@ TEST(Fassade, SettersRefuseWhatIsNoMeasureAndChangeTheNextCalculation) {
   EXPECT_DOUBLE_EQ(api.GetFluegelUeberschlag(0), 2.0);
 }
 
+TEST(Fassade, SettersOfBarsAndDimensionsShowInTheNextOutlines) {
+  CFeApi api;
+  ASSERT_EQ(api.ReadFromFile(BeispielPfad("sprossen_und_zusatzteile.aqz").c_str()), 1);
+  CFeApiPolygon umriss;
+  double d[3];
+  const auto extent = [&](const double* values) {
+    const auto [low, high] = std::minmax_element(values, values + umriss.lAnzahl);
+    return *high - *low;
+  };
+  ASSERT_EQ(api.SetSprossenBreite(0, 0, 5.5), 1);
+  ASSERT_EQ(api.SetSprossenDicke(0, 0, 1.25), 1);
+  ASSERT_EQ(api.Berechne(), 1);
+  ASSERT_EQ(api.GetFluegelBauteilUmriss(3, 0, 0, 0, umriss, d[0], d[1], d[2]), 1);
+  EXPECT_NEAR(std::min(extent(umriss.pdX), extent(umriss.pdY)), 5.5, 1e-9);
+  EXPECT_DOUBLE_EQ(api.GetFluegelBauteilDicke(3, 0, 0), 1.25);
+
+  ASSERT_EQ(api.SetRahmenDicke(9.0), 1);
+  ASSERT_EQ(api.SetFluegelRahmenDicke(0, 8.0), 1);
+  ASSERT_EQ(api.SetFluegelZVersatz(0, 0.5), 1);
+  ASSERT_EQ(api.SetZMaszLaenge(0, 180.0), 1);
+  ASSERT_EQ(api.Berechne(), 1);
+  EXPECT_DOUBLE_EQ(api.GetRahmenBauteilDicke(1, 3), 9.0);
+  EXPECT_DOUBLE_EQ(api.GetFluegelZVersatz(0, 0), 0.5);
+  EXPECT_DOUBLE_EQ(api.GetFluegelZVersatz(0, 1), 9.0 - 8.0 - 0.5);
+  ASSERT_EQ(api.GetRahmenBauteilUmriss(1, 0, -1, umriss, d[0], d[1], d[2]), 1);
+  EXPECT_NEAR(extent(umriss.pdX), 180.0, 1e-9);
+}
+
 TEST(Fassade, DimensionLengthsKeepTheirSignAndShareByName) {
   CFeApi api;
   const std::string text =

@@ -53,8 +53,9 @@ TEST(Zeichnungen, DimensionLinesCarryExtensionLinesAndArrowheads) {
 }
 
 TEST(Zeichnungen, SymbolsFillingsAndFittingsComeFromTheSash) {
-  CFeApi api =
-      Fenster("OeffSeite=Au#Gangart=Dr#Anschlag=Re#R1=7.8,1.5,1,3,1,3,7#Beschlag1=0,1,1,50,1,0#");
+  CFeApi api = Fenster(
+      "OeffSeite=Au#Gangart=Dr#Anschlag=Re#ZuerstAufgehend=1#R1=7.8,1.5,1,3,1,3,7#Beschlag1=0,1,1,"
+      "50,1,0#");
   char text[256];
   EXPECT_EQ(api.GetFluegelGangart(0, text), 2);
   EXPECT_STREQ(text, "Dr");
@@ -83,6 +84,12 @@ TEST(Zeichnungen, SymbolsFillingsAndFittingsComeFromTheSash) {
   EXPECT_NEAR(winkel, 90.0, 1e-9);
   EXPECT_EQ(api.GetBeschlagZeichnung(0, 0, lines), 1);
   EXPECT_GT(lines.lAnzahl, 0);
+  EXPECT_EQ(api.GetBeschlagTyp(0, 0), 0);
+  EXPECT_EQ(api.GetBeschlagTyp(0, 1), -1);
+  EXPECT_EQ(api.GetFluegelZuerstAufgehend(0), 1);
+  EXPECT_EQ(api.GetFluegelBauteilTyp(1, 0, 0), 0);
+  EXPECT_EQ(api.GetFluegelBauteilTyp(2, 0, 0), -1);
+  EXPECT_EQ(api.GetRahmenBauteilTyp(1, 9), -1);
 }
 
 TEST(Zeichnungen, SlatsAreOutlinedOneByOne) {

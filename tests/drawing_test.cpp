@@ -23,7 +23,10 @@ using lintavo::testing::PngSize;
 Scene RectangleScene(double width, double height) {
   Shape shape;
   shape.outline = {{0.0, 0.0}, {width, 0.0}, {width, height}, {0.0, height}};
-  return {"rectangle", {shape}};
+  Scene scene;
+  scene.name = "rectangle";
+  scene.shapes.push_back(shape);
+  return scene;
 }
 
 std::string Render(const Scene& scene, PictureFormat format) {
@@ -51,6 +54,36 @@ TEST(Picture, SvgIsWellFormedWithOnePathPerShape) {
   EXPECT_EQ(svg.root, "svg");
   EXPECT_EQ(svg.viewBox, "0 0 1600 864");
   EXPECT_EQ(svg.paths, 2);
+}
+
+TEST(Picture, LinesAndTextsComeOutOnce) {
+  Scene scene = RectangleScene(200.0, 100.0);
+  scene.lines.resize(3);
+  scene.lines[0].to = scene.lines[1].to = scene.lines[2].to = {200.0, 100.0};
+  scene.lines[1].dashed = true;
+  scene.texts.push_back({0, {100.0, -20.0}, 5.0, false, "200"});
+  scene.texts.push_back({1, {-20.0, 50.0}, 5.0, true, "100.5"});
+  const auto svg = ParseSvg(Render(scene, PictureFormat::kSvg));
+  EXPECT_TRUE(svg.wellFormed);
+  EXPECT_EQ(svg.paths, 1 + 3 + 2);
+  EXPECT_EQ(svg.dashed, 1);
+}
+
+TEST(Picture, LetteringFillsTheBoxOfItsText) {
+  // Alone on the page, the digits reach from margin to margin but for half a pen, a
+  // tenth of their height: the box is as high as the digits and 3.5 times as long.
+  Scene scene;
+  scene.texts.push_back({0, {7.0, 3.0}, 10.0, false, "80269"});
+  Box box;
+  ASSERT_TRUE(GetBox(scene, box));
+  EXPECT_NEAR(box.top - box.bottom, 10.0, 1e-9);
+  // Five digits of 0.56 and four gaps of 0.24, drawn in 0.9 of the height, and the pen.
+  EXPECT_NEAR(box.right - box.left, 10.0 * (0.9 * (5 * 0.56 + 4 * 0.24) + 0.1), 1e-9);
+  const auto svg = ParseSvg(Render(scene, PictureFormat::kSvg));
+  const double pen = 1472.0 / (box.right - box.left);  // a tenth of the digits' height
+  EXPECT_NEAR(svg.left, 64.0 + pen / 2.0, 0.01);
+  EXPECT_NEAR(svg.right, 1536.0 - pen / 2.0, 0.01);
+  EXPECT_NEAR(svg.bottom - svg.top, 9.0 * pen, 0.01);
 }
 
 TEST(Picture, UpInTheWindowIsUpOnPaper) {
@@ -119,6 +152,14 @@ TEST(Picture, FormatFollowsTheEnding) {
   EXPECT_FALSE(FormatFromPath("png", format));
   EXPECT_FALSE(FormatFromPath("x.png.gif", format));
   EXPECT_EQ(format, PictureFormat::kPdf);
+}
+
+TEST(LengthText, HasNoMoreDigitsThanNeeded) {
+  EXPECT_EQ(LengthText(120.0), "120");
+  EXPECT_EQ(LengthText(0.1 + 0.2), "0.3");
+  EXPECT_EQ(LengthText(-45.1254), "-45.125");
+  EXPECT_EQ(LengthText(-1e-9), "0");
+  EXPECT_EQ(LengthText(1e20), "1e+20");
 }
 
 TEST(DisplayText, KeepsUtf8AndReadsTheRestAsWindows1252) {

@@ -144,6 +144,36 @@ TEST(Pfosten, OneWithNothingInsideTheFrameIsNotCounted) {
   }
 }
 
+TEST(Pfosten, WhatEndedAtADeletedOneReachesOnAgain) {
+  CMFenster fenster = Raster(2, 2, 50.0, 50.0);
+  fenster.AddRahmenEinzelBauteil(CMKnoten(0, 1), CMKnoten(2, 1), Vorlage());
+  fenster.AddRahmenEinzelBauteil(CMKnoten(1, 0), CMKnoten(1, 1), Vorlage());
+  ASSERT_TRUE(fenster.Berechne(false));
+  ErwarteAchse(fenster, 1, {50.0, 7.0}, {50.0, 46.0});
+  EXPECT_TRUE(fenster.DeleteRahmenEinzelBauteil(0));
+  EXPECT_FALSE(fenster.DeleteRahmenEinzelBauteil(1));
+  ASSERT_TRUE(fenster.Berechne(false));
+  ErwarteAchse(fenster, 0, {50.0, 7.0}, {50.0, 50.0});
+}
+
+// Gaps up to the tolerance are closed by the union, so a sash beside one still
+// lies on the mullion there.
+TEST(Pfosten, AGapOfTheToleranceItselfBelongsToTheMullion) {
+  CMFenster fenster = Raster(3, 1, 50.0, 100.0);
+  while (fenster.GetAnzahlFluegel() > 0) fenster.DeleteFluegel(0);
+  fenster.GetAchsen().SetAchsAbstX(1, 70.0);
+  fenster.GetAchsen().SetAchsAbstX(2, 0.001);
+  fenster.GetRahmenPtr()->SetRahmenDefaults(7.0, 6.8, 0.0, 1, 2);
+  fenster.AddFluegel(eFormRechteck, 0, CMKnoten(0, 0), CMKnoten(1, 1));
+  CMFensterSatz* rechts = fenster.AddFluegel(eFormRechteck, 0, CMKnoten(2, 0), CMKnoten(3, 1));
+  fenster.AddRahmenEinzelBauteil(CMKnoten(1, 0), CMKnoten(1, 1), Vorlage());
+  ASSERT_TRUE(fenster.Berechne(false));
+  XY low;
+  XY high;
+  rechts->RahmenPolygon.GetMinMax(low, high);
+  EXPECT_NEAR(low.x, 70.001 + kBreite / 2.0, 1e-9);
+}
+
 TEST(Fluegel, OverlapAndZeroAreaAreRefusedAndLeaveTheWindowAsItWas) {
   CMFenster fenster = Raster(3, 1, 50.0, 100.0);
   const auto number = [&](const CMKnoten& k1, const CMKnoten& k2) {
@@ -176,6 +206,22 @@ TEST(Fluegel, ASashWhoseInnerContourVanishesFailsWithMessage22) {
   fenster.GetFluegelPtr(0L)->SetRahmenDefaults(25.0, 6.8, 0.0, 1, 3);
   EXPECT_FALSE(fenster.Berechne(false));
   EXPECT_EQ(fenster.GetFehler(), 22);
+}
+
+TEST(Fluegel, AllComponentsAndFillingsCanBeCollected) {
+  CMFenster fenster = Raster(2, 1, 50.0, 100.0);
+  fenster.AddRahmenEinzelBauteil(CMKnoten(1, 0), CMKnoten(1, 1), Vorlage());
+  fenster.GetFluegelPtr(1L)->Fuellung.SetKonstant(3.0);
+  ASSERT_TRUE(fenster.Berechne(false));
+  std::vector<CMBauteil> bauteile;
+  fenster.GetBauteile(bauteile);
+  // Four frame parts, the mullion, four parts of each sash.
+  EXPECT_EQ(bauteile.size(), 13u);
+  std::vector<CMFuellung> fuellungen;
+  fenster.GetFuellungen(fuellungen);
+  ASSERT_EQ(fuellungen.size(), 2u);
+  EXPECT_TRUE(fuellungen[0].IsGlas());
+  EXPECT_TRUE(fuellungen[1].IsKonstant());
 }
 
 TEST(Fluegel, CopiesAreDeepAndDeletingClosesTheGap) {

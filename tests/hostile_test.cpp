@@ -15,6 +15,7 @@
 #include "lintavo/api/CFeApi.h"
 
 #include "fuzz/Fensterlauf.h"
+#include "fuzz/Positionslauf.h"
 #include "support/Ordner.h"
 
 namespace {
@@ -110,6 +111,12 @@ TEST_P(HostileTest, TextIsReadPackedAndWrittenWithItsForm) {
   fenster.ReadFromCompressedFile(path.c_str());
   EXPECT_EQ(PruefeFenster(fenster), "");
   EXPECT_EQ(lintavo::fuzz::PruefeModell(Inhalt(Pfad()), ordner / "fenster.aqz"), "");
+}
+
+TEST_P(HostileTest, TextIsReadAsPositionAndAsSettings) {
+  const lintavo::test::Ordner ordner;
+  EXPECT_EQ(lintavo::fuzz::PruefePosition(Inhalt(Pfad()), ordner / ""), "");
+  EXPECT_EQ(lintavo::fuzz::PruefeEinstellungen(Inhalt(Pfad()), ordner / ""), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, HostileTest, testing::ValuesIn(Dateien()), TestName);

@@ -103,24 +103,50 @@ TEST_F(Tool, NumbersAreIndependentOfTheLocale) {
 TEST_F(Tool, DrawsPictures) {
   // Outer frame 240 x 175 in a picture 1600 wide with 64 margin on each side.
   const unsigned height = 1472u * 175 / 240 + 1 + 128;
-  EXPECT_EQ(Run("draw '" + kFanlight + "' -o '" + Path("a.png") + "'").status, 0);
+  const std::string plain = "draw '" + kFanlight + "' --no-dims --no-symbols -o '";
+  EXPECT_EQ(Run(plain + Path("a.png") + "'").status, 0);
   const PngSize png = ParsePng(ReadBytes(Path("a.png")));
   EXPECT_EQ(png.width, 1600u);
   EXPECT_EQ(png.height, height);
 
-  EXPECT_EQ(Run("draw '" + kFanlight + "' -o '" + Path("a.svg") + "'").status, 0);
+  EXPECT_EQ(Run(plain + Path("a.svg") + "'").status, 0);
   const SvgFile svg = ParseSvg(ReadBytes(Path("a.svg")));
   EXPECT_TRUE(svg.wellFormed);
   // Four frame parts, three mullions and transoms, four panes, and three sashes
-  // with four parts each; the field in the middle has no frame of its own.
-  EXPECT_EQ(svg.paths, 4 + 3 + 4 + 3 * 4);
+  // with four parts each; the field in the middle has no frame of its own. Each of
+  // the sashes has a handle of eleven lines and two hinges of six.
+  EXPECT_EQ(svg.paths, 4 + 3 + 4 + 3 * 4 + 3 * (11 + 2 * 6));
 
-  EXPECT_EQ(Run("draw '" + kFanlight + "' -o '" + Path("a.pdf") + "'").status, 0);
+  EXPECT_EQ(Run(plain + Path("a.pdf") + "'").status, 0);
   EXPECT_EQ(ReadBytes(Path("a.pdf")).compare(0, 5, "%PDF-"), 0);
 }
 
+TEST_F(Tool, DrawOptionsChooseWhatIsShown) {
+  const auto draw = [&](const std::string& options) {
+    const std::string target = Path("options.svg");
+    const Outcome outcome = Run("draw '" + kFanlight + "' " + options + " -o '" + target + "'");
+    EXPECT_EQ(outcome.status, 0) << options << ": " << outcome.err;
+    return ParseSvg(ReadBytes(target));
+  };
+  // Four dimensions with a line, two extension lines, two arrowheads and a text each; two
+  // turn-and-tilt symbols of four lines, one of two, and two lines for the fixed field.
+  const SvgFile bare = draw("--no-dims --no-symbols");
+  const SvgFile whole = draw("");
+  EXPECT_EQ(whole.paths, bare.paths + 4 * 6 + 12);
+  EXPECT_EQ(whole.dashed, 0);
+  EXPECT_EQ(draw("--inside").paths, whole.paths);
+  EXPECT_EQ(draw("--no-dims").paths, bare.paths + 12);
+  EXPECT_EQ(draw("--no-symbols").paths, bare.paths + 4 * 6);
+  // From outside the fittings are hidden and all but the fixed field's lines dashed.
+  const SvgFile outside = draw("--outside");
+  EXPECT_EQ(outside.dashed, 10);
+  EXPECT_EQ(outside.paths, whole.paths - 3 * (11 + 2 * 6));
+  EXPECT_EQ(draw("--hidden-line --outside --no-dims").dashed, 10);
+}
+
 TEST_F(Tool, DrawsAWindowFittedFirst) {
-  const Outcome drawn = Run("draw '" + kFanlight + "' --fit 200x200 -o '" + Path("a.png") + "'");
+  const Outcome drawn =
+      Run("draw '" + kFanlight + "' --fit 200x200 --no-dims -o '" + Path("a.png") + "'");
   EXPECT_EQ(drawn.status, 0) << drawn.err;
   const PngSize png = ParsePng(ReadBytes(Path("a.png")));
   EXPECT_EQ(png.width, 1600u);
@@ -192,7 +218,8 @@ TEST_F(Tool, WrongUsageEndsWithTwo) {
         "fit " + file + " 100 -5", "fit " + file + " 100,5 100", "fit " + file + " nan 100",
         "fit " + file + " 1e999 100", "fit " + file + " 100 100 -o a.CQZ", "draw " + file,
         "draw " + file + " -o a.gif", "draw " + file + " -o a.png --fit 100",
-        "draw " + file + " -o a.png --fit 100x0"}) {
+        "draw " + file + " -o a.png --fit 100x0",
+        "draw " + file + " -o a.png --inside --outside"}) {
     const Outcome outcome = Run(arguments);
     EXPECT_EQ(outcome.status, 2) << arguments;
     EXPECT_NE(outcome.err, "") << arguments;

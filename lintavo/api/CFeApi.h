@@ -120,6 +120,9 @@ class LINTAVO_API CFeApi {
   long GetAnzahlRahmenBauteile(long lArt) const;
   long GetAnzahlRahmenBauteilSegmente(long lArt, long i) const;
   double GetRahmenBauteilDicke(long lArt, long i) const;
+  /// What a component is: 0 frame part, mullion or transom, 1 glazing bar, 2 inner
+  /// extra part, 3 outer extra part; -1 for a bad kind or index.
+  long GetRahmenBauteilTyp(long lArt, long i) const;
   /// Outline of segment `lSegment` of a frame component, the length of the
   /// segment's axis and its two cut angles in degrees. Segment -1: the joined
   /// outline of all segments, the total length and the outer angles. The record
@@ -145,6 +148,7 @@ class LINTAVO_API CFeApi {
   long GetFluegelAnzahlBauteile(long lArt, long iFluegel) const;
   long GetFluegelAnzahlBauteilSegmente(long lArt, long iFluegel, long i) const;
   double GetFluegelBauteilDicke(long lArt, long iFluegel, long i) const;
+  long GetFluegelBauteilTyp(long lArt, long iFluegel, long i) const;
   /// As `GetRahmenBauteilUmriss`, for component `i` of sash `iFluegel`.
   int GetFluegelBauteilUmriss(long lArt, long iFluegel, long i, long lSegment,
                               CFeApiPolygon& umriss, double& dLaenge, double& dWinkelAnfang,
@@ -202,6 +206,8 @@ class LINTAVO_API CFeApi {
   long GetFluegelGangart(long i, char (&text)[256]) const;
   long GetFluegelAnschlag(long i, char (&text)[256]) const;
   long GetFluegelOeffSeite(long i, char (&text)[256]) const;
+  /// 1 when sash `i` is the leaf of a pair that opens first, else 0.
+  int GetFluegelZuerstAufgehend(long i) const;
   /// Contour of the filling of sash `i`.
   int GetFluegelFuellungUmriss(long i, CFeApiPolygon& umriss) const;
   /// Number of slats, and the outline of one.
@@ -212,10 +218,13 @@ class LINTAVO_API CFeApi {
   int GetFluegelGlaslichteHori(long i, CFeApiStrecken& linien) const;
   int GetFluegelGlaslichteVert(long i, CFeApiStrecken& linien) const;
   /// Where fitting `j` of sash `i` sits, and its direction in degrees. A
-  /// distance that reaches past its frame part is capped and stored so.
-  int GetBeschlagPunkt(long i, long j, double& x, double& y, double& dWinkel);
+  /// distance that reaches past its frame part counts as its end.
+  int GetBeschlagPunkt(long i, long j, double& x, double& y, double& dWinkel) const;
   /// The fitting's drawing in its place.
-  int GetBeschlagZeichnung(long i, long j, CFeApiStrecken& linien);
+  int GetBeschlagZeichnung(long i, long j, CFeApiStrecken& linien) const;
+  /// Kind of a fitting: 0 a handle, 1 a hinge, other numbers as stored; -1 for a bad
+  /// index.
+  long GetBeschlagTyp(long i, long j) const;
 
   // --- the wall opening ---------------------------------------------------
 

@@ -1,5 +1,4 @@
 // The façade's queries and setters: check, look up, read or store.
-#include <algorithm>
 #include <cstring>
 #include <utility>
 #include <vector>
@@ -57,11 +56,16 @@ const CMBauteil* BauteilDerArt(const CMFensterSatz* satz, long lArt, long i, boo
 }
 
 long AnzahlDerArt(const CMFensterSatz& satz, long lArt, bool mitSprossen) {
-  const std::vector<CMBauteil>* liste = ListeDerArt(satz, lArt, mitSprossen);
-  return liste ? static_cast<long>(
-                     std::count_if(liste->begin(), liste->end(),
-                                   [](const CMBauteil& bauteil) { return bauteil.IsVorhanden(); }))
-               : 0;
+  switch (lArt) {
+    case kArtRahmenteil:
+      return satz.lGetAnzahlRahmenBauteile();
+    case kArtEinzelteil:
+      return satz.lGetAnzahlEinzelBauteile();
+    case kArtSprosse:
+      return mitSprossen ? satz.lGetAnzahlSprossenBauteile() : 0;
+    default:
+      return 0;
+  }
 }
 
 int UmrissVon(const CMBauteil* bauteil, long lSegment, CFeApiPolygon& umriss, double& dLaenge,
@@ -157,6 +161,11 @@ double CFeApi::GetRahmenBauteilDicke(long lArt, long i) const {
   return bauteil ? bauteil->dDicke : 0.0;
 }
 
+long CFeApi::GetRahmenBauteilTyp(long lArt, long i) const {
+  const CMBauteil* bauteil = BauteilDerArt(Rahmen(), lArt, i, false);
+  return bauteil ? bauteil->lTyp : -1;
+}
+
 int CFeApi::GetRahmenBauteilUmriss(long lArt, long i, long lSegment, CFeApiPolygon& umriss,
                                    double& dLaenge, double& dWinkelAnfang,
                                    double& dWinkelEnde) const {
@@ -243,6 +252,11 @@ long CFeApi::GetFluegelAnzahlBauteilSegmente(long lArt, long iFluegel, long i) c
 double CFeApi::GetFluegelBauteilDicke(long lArt, long iFluegel, long i) const {
   const CMBauteil* bauteil = BauteilDerArt(Fluegel(iFluegel), lArt, i, true);
   return bauteil ? bauteil->dDicke : 0.0;
+}
+
+long CFeApi::GetFluegelBauteilTyp(long lArt, long iFluegel, long i) const {
+  const CMBauteil* bauteil = BauteilDerArt(Fluegel(iFluegel), lArt, i, true);
+  return bauteil ? bauteil->lTyp : -1;
 }
 
 int CFeApi::GetFluegelBauteilUmriss(long lArt, long iFluegel, long i, long lSegment,

@@ -26,8 +26,13 @@ bool FuellungVon(const CMFensterSatz* fluegel, Fuellung& fuellung) {
   return fluegel && fluegel->GetFuellung(kOhneNummer, fuellung.kontur, fuellung.lamellen);
 }
 
-CMBeschlag* BeschlagVon(CMFensterSatz* fluegel, long j) {
-  return fluegel ? fluegel->GetBeschlagPtr(j) : nullptr;
+// A copy of a fitting: to ask where it sits would cap its distances, and a query
+// changes nothing.
+bool BeschlagVon(const CMFensterSatz* fluegel, long j, CMBeschlag& beschlag) {
+  const CMBeschlag* gefunden = fluegel ? fluegel->GetBeschlagPtr(j) : nullptr;
+  if (!gefunden) return false;
+  beschlag = *gefunden;
+  return true;
 }
 
 int AlsErgebnis(bool ok) {
@@ -195,27 +200,41 @@ int CFeApi::GetFluegelLamellenUmriss(long i, long j, CFeApiPolygon& umriss) cons
   });
 }
 
-int CFeApi::GetBeschlagPunkt(long i, long j, double& x, double& y, double& dWinkel) {
+int CFeApi::GetBeschlagPunkt(long i, long j, double& x, double& y, double& dWinkel) const {
   return Geschuetzt(0, [&] {
-    CMBeschlag* beschlag = BeschlagVon(Fluegel(i), j);
+    CMBeschlag beschlag;
     XY p;
-    if (!beschlag || !beschlag->GetPunkt(Fluegel(i), p, dWinkel)) return 0;
+    if (!BeschlagVon(Fluegel(i), j, beschlag) || !beschlag.GetPunkt(Fluegel(i), p, dWinkel)) {
+      return 0;
+    }
     x = p.x;
     y = p.y;
     return 1;
   });
 }
 
-int CFeApi::GetBeschlagZeichnung(long i, long j, CFeApiStrecken& linien) {
+int CFeApi::GetBeschlagZeichnung(long i, long j, CFeApiStrecken& linien) const {
   linien.Delete();
   return Geschuetzt(0, [&] {
-    CMBeschlag* beschlag = BeschlagVon(Fluegel(i), j);
+    CMBeschlag beschlag;
     XY p;
     double winkel = 0.0;
-    if (!beschlag || !beschlag->GetPunkt(Fluegel(i), p, winkel)) return 0;
+    if (!BeschlagVon(Fluegel(i), j, beschlag) || !beschlag.GetPunkt(Fluegel(i), p, winkel)) {
+      return 0;
+    }
     std::vector<CMStrecke> strecken;
-    beschlag->GetZeichnung(strecken, p, winkel);
+    beschlag.GetZeichnung(strecken, p, winkel);
     KopiereStrecken(strecken, linien);
     return 1;
   });
+}
+
+long CFeApi::GetBeschlagTyp(long i, long j) const {
+  CMBeschlag beschlag;
+  return BeschlagVon(Fluegel(i), j, beschlag) ? beschlag.eTyp : -1;
+}
+
+int CFeApi::GetFluegelZuerstAufgehend(long i) const {
+  const CMFensterSatz* fluegel = Fluegel(i);
+  return fluegel ? AlsErgebnis(fluegel->IsZuerstAufgehend()) : 0;
 }

@@ -52,7 +52,7 @@ int lintavo_window_get_fluegel_glaslichte_vert(const lintavo_window* window, lon
   return window ? window->api.GetFluegelGlaslichteVert(i, Record(lines)) : 0;
 }
 
-int lintavo_window_get_beschlag_zeichnung(lintavo_window* window, long i, long j,
+int lintavo_window_get_beschlag_zeichnung(const lintavo_window* window, long i, long j,
                                           lintavo_segments* lines) {
   return window ? window->api.GetBeschlagZeichnung(i, j, Record(lines)) : 0;
 }

@@ -44,7 +44,7 @@ LINTAVO_API int lintavo_window_get_fluegel_glaslichte_hori(const lintavo_window*
 LINTAVO_API int lintavo_window_get_fluegel_glaslichte_vert(const lintavo_window* window, long i,
                                                            lintavo_segments* lines);
 /** The drawing of fitting `j` of sash `i` in its place. */
-LINTAVO_API int lintavo_window_get_beschlag_zeichnung(lintavo_window* window, long i, long j,
+LINTAVO_API int lintavo_window_get_beschlag_zeichnung(const lintavo_window* window, long i, long j,
                                                       lintavo_segments* lines);
 
 #ifdef __cplusplus

@@ -38,6 +38,10 @@ double lintavo_window_get_rahmen_bauteil_dicke(const lintavo_window* window, lon
   return window ? window->api.GetRahmenBauteilDicke(art, i) : 0.0;
 }
 
+long lintavo_window_get_rahmen_bauteil_typ(const lintavo_window* window, long art, long i) {
+  return window ? window->api.GetRahmenBauteilTyp(art, i) : -1;
+}
+
 int lintavo_window_get_rahmen_bauteil_umriss(const lintavo_window* window, long art, long i,
                                              long segment, lintavo_polygon* outline, double* length,
                                              double* start_angle, double* end_angle) {
@@ -106,6 +110,11 @@ double lintavo_window_get_fluegel_bauteil_dicke(const lintavo_window* window, lo
   return window ? window->api.GetFluegelBauteilDicke(art, fluegel, i) : 0.0;
 }
 
+long lintavo_window_get_fluegel_bauteil_typ(const lintavo_window* window, long art, long fluegel,
+                                            long i) {
+  return window ? window->api.GetFluegelBauteilTyp(art, fluegel, i) : -1;
+}
+
 int lintavo_window_get_fluegel_bauteil_umriss(const lintavo_window* window, long art, long fluegel,
                                               long i, long segment, lintavo_polygon* outline,
                                               double* length, double* start_angle,
@@ -149,9 +158,17 @@ long lintavo_window_get_anzahl_beschlaege(const lintavo_window* window, long i) 
   return window ? window->api.GetAnzahlBeschlaege(i) : -1;
 }
 
-int lintavo_window_get_beschlag_punkt(lintavo_window* window, long i, long j, double* x, double* y,
-                                      double* angle) {
+int lintavo_window_get_beschlag_punkt(const lintavo_window* window, long i, long j, double* x,
+                                      double* y, double* angle) {
   return window ? window->api.GetBeschlagPunkt(i, j, Output(x), Output(y), Output(angle)) : 0;
+}
+
+long lintavo_window_get_beschlag_typ(const lintavo_window* window, long i, long j) {
+  return window ? window->api.GetBeschlagTyp(i, j) : -1;
+}
+
+int lintavo_window_get_fluegel_zuerst_aufgehend(const lintavo_window* window, long i) {
+  return window ? window->api.GetFluegelZuerstAufgehend(i) : 0;
 }
 
 long lintavo_window_get_anzahl_sprossen(const lintavo_window* window, long i) {

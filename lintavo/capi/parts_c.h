@@ -45,6 +45,10 @@ LINTAVO_API long lintavo_window_get_anzahl_rahmen_bauteil_segmente(const lintavo
 /** Thickness of frame component `i`. */
 LINTAVO_API double lintavo_window_get_rahmen_bauteil_dicke(const lintavo_window* window, long art,
                                                            long i);
+/** What a component is: 0 frame part, mullion or transom, 1 glazing bar, 2 inner
+ * extra part, 3 outer extra part; -1 for a bad kind or index. */
+LINTAVO_API long lintavo_window_get_rahmen_bauteil_typ(const lintavo_window* window, long art,
+                                                       long i);
 /** Outline of a segment of frame component `i`, the length of the segment's axis
  * and its two cut angles in degrees. Segment LINTAVO_ALLE_SEGMENTE: the joined
  * outline, the total length and the outer angles. */
@@ -85,6 +89,9 @@ LINTAVO_API long lintavo_window_get_fluegel_anzahl_bauteil_segmente(const lintav
 /** Thickness of component `i` of sash `fluegel`. */
 LINTAVO_API double lintavo_window_get_fluegel_bauteil_dicke(const lintavo_window* window, long art,
                                                             long fluegel, long i);
+/** As lintavo_window_get_rahmen_bauteil_typ, for component `i` of sash `fluegel`. */
+LINTAVO_API long lintavo_window_get_fluegel_bauteil_typ(const lintavo_window* window, long art,
+                                                        long fluegel, long i);
 /** As lintavo_window_get_rahmen_bauteil_umriss, for component `i` of sash
  * `fluegel`. */
 LINTAVO_API int lintavo_window_get_fluegel_bauteil_umriss(const lintavo_window* window, long art,
@@ -114,8 +121,11 @@ LINTAVO_API int lintavo_window_get_fluegel_lamellen_umriss(const lintavo_window*
 LINTAVO_API long lintavo_window_get_anzahl_beschlaege(const lintavo_window* window, long i);
 /** Where fitting `j` of sash `i` sits, and its direction in degrees. A distance
  * that reaches past its frame part is capped and stored so. */
-LINTAVO_API int lintavo_window_get_beschlag_punkt(lintavo_window* window, long i, long j, double* x,
-                                                  double* y, double* angle);
+LINTAVO_API int lintavo_window_get_beschlag_punkt(const lintavo_window* window, long i, long j,
+                                                  double* x, double* y, double* angle);
+/** Kind of a fitting: 0 a handle, 1 a hinge, other numbers as stored; -1 for a bad
+ * index. */
+LINTAVO_API long lintavo_window_get_beschlag_typ(const lintavo_window* window, long i, long j);
 /** Number of glazing bars of sash `i`; -1 for a bad index. */
 LINTAVO_API long lintavo_window_get_anzahl_sprossen(const lintavo_window* window, long i);
 /** Width and thickness of bar `j` of sash `i`. */
@@ -137,6 +147,8 @@ LINTAVO_API size_t lintavo_window_get_fluegel_anschlag(const lintavo_window* win
                                                        char* text, size_t size);
 LINTAVO_API size_t lintavo_window_get_fluegel_oeff_seite(const lintavo_window* window, long i,
                                                          char* text, size_t size);
+/** 1 when sash `i` is the leaf of a pair that opens first, else 0. */
+LINTAVO_API int lintavo_window_get_fluegel_zuerst_aufgehend(const lintavo_window* window, long i);
 
 #ifdef __cplusplus
 }

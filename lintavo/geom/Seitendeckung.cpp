@@ -40,8 +40,10 @@ bool SeitenDecken(const XY& a1, const XY& a2, const XY& b1, const XY& b2) {
   const XY richtung = Mal(Differenz(a2, a1), 1.0 / laenge);
   const XY zuB1 = Differenz(b1, a1);
   const XY zuB2 = Differenz(b2, a1);
-  if (!(std::fabs(Kreuzprodukt(richtung, zuB1)) <= kUeberlagerung &&
-        std::fabs(Kreuzprodukt(richtung, zuB2)) <= kUeberlagerung)) {
+  // A gap of exactly the tolerance, which the union closes, counts too.
+  constexpr double kAbstand = kUeberlagerung + kRechenrauschen;
+  if (!(std::fabs(Kreuzprodukt(richtung, zuB1)) <= kAbstand &&
+        std::fabs(Kreuzprodukt(richtung, zuB2)) <= kAbstand)) {
     return false;
   }
   const double u1 = Skalarprodukt(richtung, zuB1);

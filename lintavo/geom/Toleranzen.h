@@ -11,6 +11,8 @@ inline constexpr double kRadiantJeGrad = kPi / 180.0;
 /// Lengths below this are zero; points closer than this coincide; also the
 /// tolerance of line intersections and of the kernel in general.
 inline constexpr double kNullLaenge = 1e-6;
+/// Rounding noise of sums and differences of coordinates.
+inline constexpr double kRechenrauschen = 1e-9;
 /// Areas below this are none.
 inline constexpr double kNullFlaeche = 1e-6;
 /// Strict inside test of a segment's midpoint.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <utility>
 
 #include "lintavo/geom/Seitendeckung.h"
@@ -233,6 +234,29 @@ CMBauteil* CMFenster::AddRahmenEinzelBauteil(const CMKnoten& k1, const CMKnoten&
   return &rahmen_.EinzelTeile.back();
 }
 
+bool CMFenster::DeleteRahmenEinzelBauteil(long i) {
+  if (!rahmen_.DeleteEinzelBauteil(i)) return false;
+  Invalidiere();
+  return true;
+}
+
+void CMFenster::GetBauteile(std::vector<CMBauteil>& bauteile) const {
+  const auto add = [&](const std::vector<CMBauteil>& liste) {
+    bauteile.insert(bauteile.end(), liste.begin(), liste.end());
+  };
+  add(rahmen_.RahmenTeile);
+  add(rahmen_.EinzelTeile);
+  for (const auto& fluegel : fluegel_) {
+    add(fluegel->RahmenTeile);
+    add(fluegel->EinzelTeile);
+    add(fluegel->Sprossen);
+  }
+}
+
+void CMFenster::GetFuellungen(std::vector<CMFuellung>& fuellungen) const {
+  for (const auto& fluegel : fluegel_) fuellungen.push_back(fluegel->Fuellung);
+}
+
 long CMFenster::AddZusatzMasz(const CMZusatzMasz& masz) {
   zusatzMasze_.push_back(masz);
   return GetAnzahlZusatzMasze() - 1;
@@ -275,4 +299,24 @@ void CMFenster::GetMinMaxAchsIndizes(long& minJ, long& maxJ, long& minK, long& m
       maxK = std::max<long>(maxK, knoten->K());
     }
   }
+}
+
+void CMFenster::Trace() const {
+#ifndef NDEBUG
+  CIniFile document;
+  SaveToBuffer(document);
+  document.WriteTrace();
+  TRACE_RahmenPolygon();
+#endif
+}
+
+void CMFenster::TRACE_RahmenPolygon() const {
+#ifndef NDEBUG
+  const GEOM2_Polygon& polygon = rahmen_.RahmenPolygon;
+  std::fprintf(stderr, "--- Rahmenpolygon: %d ----\n", polygon.GetAnzahl());
+  for (int i = 0; i < polygon.GetAnzahl(); ++i) {
+    const GEOM2_Eckpunkt& ecke = polygon.GetEckpunkt(i);
+    std::fprintf(stderr, "%d: (%g, %g) Bauteil %d\n", i, ecke.x, ecke.y, ecke.Attribut);
+  }
+#endif
 }

@@ -118,7 +118,17 @@ class LINTAVO_API CMFenster {
   long GetRahmenEinzelBauteilNr(const CMBauteil* bauteil) const {
     return rahmen_.GetEinzelBauteilNr(bauteil);
   }
-  bool DeleteRahmenEinzelBauteil(long i) { return rahmen_.DeleteEinzelBauteil(i); }
+  /// Removes one; the next calculation lays the others anew, since some may have
+  /// ended at it. False for a bad index.
+  bool DeleteRahmenEinzelBauteil(long i);
+
+  // --- collections -----------------------------------------------------------
+
+  /// Appends copies of all components: the frame's parts and single parts, then of each
+  /// sash its parts, single parts and bars.
+  void GetBauteile(std::vector<CMBauteil>& bauteile) const;
+  /// Appends copies of the fillings, one per sash, in sash order.
+  void GetFuellungen(std::vector<CMFuellung>& fuellungen) const;
 
   // --- macro file ------------------------------------------------------------
 
@@ -182,7 +192,7 @@ class LINTAVO_API CMFenster {
   bool NeuenAchsAbstandSetzen(const CMZusatzMasz* masz, long i1, long i2, double dSoll);
   /// Moves one axis so that its span from axis `iVon` becomes `dWert`; all other
   /// axes keep their positions. Throws 49 with `name` when `iAchse` is not an
-  /// axis or the length is not finite.
+  /// axis or the shift is not finite or beyond 1e9.
   void AchseVerschieben(bool bVerti, int iVon, int iAchse, double dWert, const CString& name);
   /// Applies all dimensions to the axes. Returns the first that cannot be
   /// applied, or null. Throws 49, naming the dimension, when axes in use end up
@@ -275,8 +285,11 @@ class LINTAVO_API CMFenster {
   /// picture of more than a million lines.
   bool GetHiddenLineBild(std::vector<CMStrecke>& lines, bool bVonAussen) const;
 
-  /// Readable dump for diagnostics.
-  void Trace() const {}
+  /// Dumps the window and its frame polygon, readable, to standard error; nothing in
+  /// a production build.
+  void Trace() const;
+  /// The same for the frame polygon alone.
+  void TRACE_RahmenPolygon() const;
 
  private:
   struct Box {

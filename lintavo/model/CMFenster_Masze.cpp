@@ -13,10 +13,6 @@ using lintavo::StringId;
 
 namespace {
 
-// Smaller shifts are rounding noise of the sums of distances: applying them
-// would change a window that is calculated twice.
-constexpr double kRechenrauschen = 1e-9;
-
 // A corner point belongs to a frame corner at most this far away.
 constexpr double kFangRadius = 0.1;
 
@@ -268,10 +264,12 @@ void CMFenster::AchseVerschieben(bool bVerti, int iVon, int iAchse, double dWert
                                  const CString& name) {
   const bool known = IsAxis(achsen_, bVerti, iVon) && IsAxis(achsen_, bVerti, iAchse);
   const double missing = achsen_.dGetEffVersch(bVerti, iVon, iAchse, dWert);
-  if (!known || !std::isfinite(missing)) {
+  // A shift beyond any drawing is lost to rounding: the axis would not arrive.
+  if (!known || !(std::fabs(missing) <= lintavo::kGroessteKoordinate)) {
     throw CMException(static_cast<int>(StringId::MeldungZusatzmaszLaenge), name);
   }
-  if (std::fabs(missing) < kRechenrauschen) return;
+  // Applying rounding noise would change a window that is calculated twice.
+  if (std::fabs(missing) < lintavo::kRechenrauschen) return;
   // The axis behind gives way by the same amount, so that all others stay.
   const bool isLast = iAchse + 1 >= AxisCount(achsen_, bVerti);
   if (!isLast) AddToDistance(achsen_, bVerti, iAchse + 1, -missing);

@@ -275,4 +275,11 @@ void CMFenster::PfostenUndRiegelVerschneiden(const GEOM2_Polygon& innen) {
   for (int pass = 0; pass < kMaxSchnittgaenge; ++pass) {
     if (!EndenZurueckschneiden(rahmen_.EinzelTeile)) break;
   }
+  // A shorter axis leaves less room for the lean of a cut at the frame.
+  for (CMBauteil& bauteil : rahmen_.EinzelTeile) {
+    if (!bauteil.IsRahmenteil() || bauteil.GetAchsLaenge() <= lintavo::kNullLaenge) continue;
+    if (!innen.AchseClippen(bauteil.Achse(0), 0.5 * bauteil.dBreite)) {
+      bauteil.Achse(0).dLaenge = 0.0;
+    }
+  }
 }

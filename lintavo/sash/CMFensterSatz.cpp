@@ -12,7 +12,7 @@ namespace {
 
 constexpr double kSprossenBreite = 4.0;
 constexpr double kSprossenDicke = 4.0;
-constexpr long kAnzahlFormBeiwerte = 4;
+[[maybe_unused]] constexpr long kAnzahlFormBeiwerte = 4;
 
 constexpr std::array<const char*, 2> kOeffSeiten = {"In", "Au"};
 constexpr std::array<const char*, 12> kGangarten = {"Fe", "Dr", "Ki", "Kl", "DK", "HD",

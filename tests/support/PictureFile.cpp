@@ -1,6 +1,8 @@
-// What the tests ask of a picture: its size, and for SVG its form and paths.
+// What the tests ask of a picture: its size, and for SVG its form and content.
 #include "support/PictureFile.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <iterator>
@@ -10,15 +12,53 @@
 namespace lintavo::testing {
 namespace {
 
-void OnElement(void* data, const XML_Char* name, const XML_Char** attributes) {
-  auto* svg = static_cast<SvgFile*>(data);
-  if (svg->root.empty()) {
-    svg->root = name;
-    for (int i = 0; attributes[i] != nullptr; i += 2) {
-      if (std::strcmp(attributes[i], "viewBox") == 0) svg->viewBox = attributes[i + 1];
-    }
+const char* Attribute(const XML_Char** attributes, const char* name) {
+  for (int i = 0; attributes[i] != nullptr; i += 2) {
+    if (std::strcmp(attributes[i], name) == 0) return attributes[i + 1];
   }
-  if (std::strcmp(name, "path") == 0) ++svg->paths;
+  return "";
+}
+
+bool IsDashed(const XML_Char** attributes) {
+  return std::strstr(Attribute(attributes, "style"), "stroke-dasharray") != nullptr ||
+         *Attribute(attributes, "stroke-dasharray") != '\0';
+}
+
+void Widen(double x, double y, SvgFile& svg) {
+  svg.left = std::min(svg.left, x);
+  svg.right = std::max(svg.right, x);
+  svg.top = std::min(svg.top, y);
+  svg.bottom = std::max(svg.bottom, y);
+}
+
+// Paths are letters for the commands and pairs of numbers.
+void ReadPath(const char* text, SvgFile& svg) {
+  double pair[2];
+  int count = 0;
+  while (*text != '\0') {
+    char* end = nullptr;
+    pair[count] = std::strtod(text, &end);
+    if (end == text) {
+      ++text;
+      continue;
+    }
+    text = end;
+    if (++count < 2) continue;
+    Widen(pair[0], pair[1], svg);
+    count = 0;
+  }
+}
+
+void OnElement(void* data, const XML_Char* name, const XML_Char** attributes) {
+  SvgFile& svg = *static_cast<SvgFile*>(data);
+  if (svg.root.empty()) {
+    svg.root = name;
+    svg.viewBox = Attribute(attributes, "viewBox");
+  }
+  if (std::strcmp(name, "path") != 0) return;
+  ++svg.paths;
+  if (IsDashed(attributes)) ++svg.dashed;
+  ReadPath(Attribute(attributes, "d"), svg);
 }
 
 unsigned BigEndianAt(const std::string& bytes, std::size_t i) {

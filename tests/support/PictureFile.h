@@ -1,4 +1,4 @@
-// What the tests ask of a picture: its size, and for SVG its form and paths.
+// What the tests ask of a picture: its size, and for SVG its form and content.
 #pragma once
 
 #include <string>
@@ -9,7 +9,12 @@ struct SvgFile {
   bool wellFormed = false;
   std::string root;  ///< name of the outermost element
   std::string viewBox;
-  int paths = 0;
+  int paths = 0;        ///< filled or stroked; a text is one
+  int dashed = 0;       ///< of them, stroked with dashes
+  double left = 1e300;  ///< smallest box of the corners and control points of all paths
+  double top = 1e300;
+  double right = -1e300;
+  double bottom = -1e300;
 };
 
 SvgFile ParseSvg(const std::string& text);

@@ -32,6 +32,7 @@ LINTAVO_DRAWING_API bool FormatFromPath(std::string_view path, PictureFormat& fo
 /// units, or 800 points in a PDF. The shorter side follows the scene's
 /// proportions and never falls below the margins, so the size of a picture is
 /// bounded whatever the scene holds. PNG has a white ground, the others none.
+/// Texts are drawn as lines: no font is needed, pictures are the same everywhere.
 /// `bytes` receives the file's content on `kOk` and is left alone otherwise.
 LINTAVO_DRAWING_API PictureStatus RenderPicture(const Scene& scene, PictureFormat format,
                                                 std::string& bytes);

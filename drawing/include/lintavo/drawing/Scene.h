@@ -123,7 +123,8 @@ struct SceneOptions {
 /// gives an empty scene.
 LINTAVO_DRAWING_API Scene BuildScene(const CFeApi& window, const SceneOptions& options = {});
 
-/// The box that a text needs; a writer keeps its text within it.
+/// The box that a text fills, in the lettering of the pictures: digits drawn with a pen
+/// a tenth as wide as they are high. A host with a font of its own fits its text in.
 LINTAVO_DRAWING_API Box GetBox(const Text& text);
 
 /// The box of all shapes, lines and texts. False, leaving `box` as it is, when
