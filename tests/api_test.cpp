@@ -229,6 +229,16 @@ TEST(Fassade, AnEmptyWindowAndBadIndicesAnswerFailureValues) {
     EXPECT_EQ(api.GetFluegelAnzahlBauteile(1, i), 0);
     EXPECT_EQ(api.GetZMaszLaenge(i), 0.0);
     EXPECT_EQ(api.SetSprossenBreite(0, i, 2.0), 0);
+    EXPECT_EQ(api.GetRahmenBauteilAttribut(1, i, 1), 0);
+    EXPECT_EQ(api.GetRahmenBauteilAttribut(i, 0, 1), 0);
+    EXPECT_EQ(api.GetFluegelBauteilAttribut(1, i, 0, 1), 0);
+    EXPECT_EQ(api.GetFluegelBauteilAttribut(1, 0, i, 1), 0);
+    EXPECT_EQ(api.GetFluegelFuellungAttribut(i, 1), 0);
+    for (const long n : {i, 0L, 5L}) {
+      EXPECT_EQ(api.GetRahmenBauteilAttribut(1, 0, n), 0);
+      EXPECT_EQ(api.GetFluegelBauteilAttribut(1, 0, 0, n), 0);
+      EXPECT_EQ(api.GetFluegelFuellungAttribut(0, n), 0);
+    }
   }
   EXPECT_EQ(api.GetAnzahlRahmenBauteile(3), 0);
 }
