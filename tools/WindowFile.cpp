@@ -32,13 +32,15 @@ void RefuseSource(const std::string& source, const std::string& target) {
   Fail(target, "the file would overwrite the one that it is made from");
 }
 
-// The façade's form of a window that another object holds.
-void TakeOver(const CMFenster& fenster, CFeApi& window) {
+// The façade's form of a window that another object holds. Line feeds are skipped in
+// a buffer, so lines end with what cannot stand in one.
+bool TakeOver(const CMFenster& fenster, CFeApi& window) {
+  constexpr char kTrenner = '\r';
   CIniFile document;
   fenster.SaveToBuffer(document);
   std::string text;
-  for (const CString& line : document.GetLines()) text.append(line.View()) += '\n';
-  window.ReadFromBuffer(static_cast<long>(text.size()), text.data(), '\n');
+  for (const CString& line : document.GetLines()) text.append(line.View()) += kTrenner;
+  return window.ReadFromBuffer(static_cast<long>(text.size()), text.data(), kTrenner) == 1;
 }
 
 }  // namespace
@@ -82,9 +84,10 @@ void MakePosition(const std::string& path, const std::string& baseDirectory,
   if (position.GetFensterPtr()->GetAnzahlFluegel() <= 0) {
     Fail(path, "there is no window in its type");
   }
-  TakeOver(*position.GetFensterPtr(), window);
-  const std::string message = LibraryMessage(window);
-  if (!message.empty()) Fail(path, message);
+  if (!TakeOver(*position.GetFensterPtr(), window)) {
+    const std::string message = LibraryMessage(window);
+    Fail(path, message.empty() ? "the window cannot be calculated" : message);
+  }
   if (target.empty()) return;
   RefuseSource(path, target);
   if (!position.SaveToFile(target.c_str())) Fail(target, "the file cannot be written");
