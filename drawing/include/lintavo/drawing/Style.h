@@ -21,7 +21,7 @@ struct Colour {
 /// A number that the list does not have is drawn in the usual colour.
 using Palette = std::vector<Colour>;
 
-/// The widths of lines, as shares of the usual ones; 0 to 100, others count as 1.
+/// The widths of lines, as shares of the usual ones; a line of width 0 is not drawn.
 struct Pens {
   double rahmen = 1.0;  ///< edges of all parts but bars, and fittings
   double symbole = 1.0;
@@ -55,8 +55,8 @@ struct Style {
   MeasureSizes sizes;
 };
 
-/// Takes over the pens and sizes of a host's settings. The width of characters is not
-/// used: letters keep their proportions.
+/// Takes over the pens and sizes of a host's settings. A pen outside 0 to 100 counts as
+/// 1. The width of characters is not used: letters keep their proportions.
 LINTAVO_DRAWING_API void UseSettings(const CAcFeInis& settings, Style& style);
 
 /// Takes over the colours for plane drawings of a host's materials.
