@@ -20,6 +20,9 @@ constexpr double kStandOff[] = {0.0, 0.7, 1.4};
 // How many arrowheads beyond the end of a short dimension its text begins.
 constexpr double kBeyondArrow = 2.3;
 
+// The number of the colour of texts.
+constexpr long kAttributTexte = 2;
+
 struct Segment {
   Point from;
   Point to;
@@ -77,6 +80,7 @@ class Placer {
     const std::vector<Segment> near = SegmentsNear(dimension);
     Text text;
     text.masz = dimension.masz;
+    text.attribut = kAttributTexte;
     text.upright = dimension.upright;
     text.inhalt = LengthText(dimension.length);
     TryAll(dimension, text, near);

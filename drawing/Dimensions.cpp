@@ -1,6 +1,7 @@
 // Lines, extension lines and arrowheads of dimensions, from the façade's answers.
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "Dimensions_intern.h"
 #include "Parts_intern.h"
@@ -23,6 +24,9 @@ constexpr double kArrowsOutside = 2.0;
 // window to be seen.
 constexpr double kFarthest = 10.0;
 
+// The number of the colour of lines and arrowheads.
+constexpr long kAttributLinien = 1;
+
 bool LiesNear(const Box& box, double extent, const Point& point) {
   const double reach = kFarthest * extent;
   return point.x >= box.left - reach && point.x <= box.right + reach &&
@@ -33,14 +37,29 @@ Line LineOf(LineKind kind, long masz, const Point& from, const Point& to) {
   Line line;
   line.kind = kind;
   line.masz = masz;
+  line.attribut = kAttributLinien;
   line.from = from;
   line.to = to;
   return line;
 }
 
+// The coordinate across a dimension line.
+double Point::*Across(const Dimension& dimension) {
+  return dimension.upright ? &Point::x : &Point::y;
+}
+
+// How much farther out a line beside the window lies when its distance is stretched.
+double ShiftOf(const Dimension& dimension, const Box& box, double factor) {
+  const double place = dimension.from.*Across(dimension);
+  const double low = dimension.upright ? box.left : box.bottom;
+  const double high = dimension.upright ? box.right : box.top;
+  if (place < low) return (factor - 1.0) * (place - low);
+  return place > high ? (factor - 1.0) * (place - high) : 0.0;
+}
+
 // Draws the end of an extension line that points to the window out to it.
 void ReachToWindow(const Dimension& dimension, const Box& box, double gap, Line& line) {
-  double Point::*const across = dimension.upright ? &Point::x : &Point::y;
+  double Point::*const across = Across(dimension);
   const double low = (dimension.upright ? box.left : box.bottom) - gap;
   const double high = (dimension.upright ? box.right : box.top) + gap;
   double& smaller = line.from.*across < line.to.*across ? line.from.*across : line.to.*across;
@@ -56,6 +75,8 @@ void AddExtensionLines(const CFeApi& window, const Dimension& dimension, const B
   for (int i = 0; i < lines.lAnzahl; ++i) {
     Line line = LineOf(LineKind::kHilfsLinie, dimension.masz, {lines.pdX1[i], lines.pdY1[i]},
                        {lines.pdX2[i], lines.pdY2[i]});
+    line.from.*Across(dimension) += dimension.shift;
+    line.to.*Across(dimension) += dimension.shift;
     ReachToWindow(dimension, box, sizes.gap, line);
     scene.lines.push_back(line);
   }
@@ -77,9 +98,11 @@ void AddArrows(const CFeApi& window, const Dimension& dimension, const Dimension
     return;
   }
   for (const CFeApiPolygon& arrow : arrows) {
-    const std::vector<Point> outline = ToOutline(arrow);
-    scene.shapes.push_back({ShapeKind::kMaszPfeil, -1, dimension.masz,
-                            dimension.arrowsOutside ? TurnedRound(outline) : outline});
+    std::vector<Point> outline = ToOutline(arrow);
+    for (Point& point : outline) point.*Across(dimension) += dimension.shift;
+    if (dimension.arrowsOutside) outline = TurnedRound(std::move(outline));
+    scene.shapes.push_back(
+        {ShapeKind::kMaszPfeil, -1, dimension.masz, std::move(outline), kAttributLinien});
   }
 }
 
@@ -104,6 +127,9 @@ bool ReadDimension(const CFeApi& window, long masz, const Box& box, const Dimens
   dimension.from = {lines.pdX1[0], lines.pdY1[0]};
   dimension.to = {lines.pdX2[0], lines.pdY2[0]};
   dimension.upright = dimension.from.x == dimension.to.x;  // exact: one value in both
+  dimension.shift = ShiftOf(dimension, box, sizes.lineFactor);
+  dimension.from.*Across(dimension) += dimension.shift;
+  dimension.to.*Across(dimension) += dimension.shift;
   const double length =
       std::hypot(dimension.to.x - dimension.from.x, dimension.to.y - dimension.from.y);
   dimension.arrowsOutside = length < kArrowsInside * sizes.arrowLength;
@@ -114,10 +140,17 @@ bool ReadDimension(const CFeApi& window, long masz, const Box& box, const Dimens
 
 }  // namespace
 
-DimensionSizes SizesFor(double extent) {
-  const double text = kTextShare * extent;
-  return {text, kArrowLengthShare * text, kArrowWidthShare * text, kOverhangShare * text,
-          kGapShare * text};
+DimensionSizes SizesFor(double extent, const MeasureSizes& wanted, double unit) {
+  const auto size = [&](double length, double usual) {
+    return length > 0.0 ? std::min(length * unit, extent) : usual;
+  };
+  const double text = size(wanted.textHeight, kTextShare * extent);
+  return {text,
+          size(wanted.arrowLength, kArrowLengthShare * text),
+          size(wanted.arrowWidth, kArrowWidthShare * text),
+          size(wanted.extensionLength, kOverhangShare * text),
+          kGapShare * text,
+          wanted.lineFactor > 0.0 ? wanted.lineFactor : 1.0};
 }
 
 std::vector<Dimension> AddDimensions(const CFeApi& window, const Box& box,

@@ -16,6 +16,7 @@ struct Dimension {
   Point to;
   bool arrowsOutside = false;
   double length = 0.0;  ///< what is written
+  double shift = 0.0;   ///< by which it is drawn farther out than the file puts it
 };
 
 /// Sizes of what belongs to a dimension, in the window's units.
@@ -23,12 +24,14 @@ struct DimensionSizes {
   double text;         ///< height of a digit
   double arrowLength;  ///< along the dimension line
   double arrowWidth;
-  double overhang;  ///< by which extension lines cross the dimension line
-  double gap;       ///< between the window and an extension line, a line and its text
+  double overhang;    ///< by which extension lines cross the dimension line
+  double gap;         ///< between the window and an extension line, a line and its text
+  double lineFactor;  ///< stretches the distance of dimension lines from the window
 };
 
-/// The sizes that suit a window whose longer side is `extent`.
-DimensionSizes SizesFor(double extent);
+/// The sizes for a window whose longer side is `extent`: what is wanted, in units of
+/// `unit`, and for the rest what suits the window.
+DimensionSizes SizesFor(double extent, const MeasureSizes& wanted, double unit);
 
 /// Appends the lines and arrowheads of all dimensions around a window that fills
 /// `box`; returns what has to be written.

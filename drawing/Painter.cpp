@@ -10,23 +10,17 @@
 
 #include "Lettering_intern.h"
 #include "Painter_intern.h"
+#include "Paper_intern.h"
 
 namespace lintavo::drawing {
 namespace {
 
 // Shares of the paper's longer side.
-constexpr double kMarginShare = 0.04;
 constexpr double kStrokeShare = 0.0009;
 constexpr double kDashShare = 0.008;
 constexpr double kDashGapShare = 0.005;
 
 constexpr double kQuarterTurn = -1.5707963267948966;
-
-struct Colour {
-  double red;
-  double green;
-  double blue;
-};
 
 constexpr Colour Rgb(int red, int green, int blue) {
   return {red / 255.0, green / 255.0, blue / 255.0};
@@ -38,7 +32,7 @@ constexpr Colour kFittingInk = Rgb(0x26, 0x22, 0x1e);
 constexpr Colour kMeasureInk = Rgb(0x33, 0x33, 0x33);
 
 // The frame is the darkest wood, the sashes are lighter: what opens stands out.
-Colour FillColour(ShapeKind kind) {
+Colour UsualFill(ShapeKind kind) {
   switch (kind) {
     case ShapeKind::kRahmenteil:
       return Rgb(0xcb, 0xb5, 0x92);
@@ -66,23 +60,34 @@ Colour FillColour(ShapeKind kind) {
   return kInk;
 }
 
+Colour ColourOf(const Palette& palette, long number, const Colour& usual) {
+  if (number < 1 || static_cast<std::size_t>(number) > palette.size()) return usual;
+  return palette[static_cast<std::size_t>(number - 1)];
+}
+
+Colour FillColour(const Shape& shape, const Style& style) {
+  const bool masz = shape.kind == ShapeKind::kMaszPfeil;
+  return ColourOf(masz ? style.masze : style.bauteile, shape.attribut, UsualFill(shape.kind));
+}
+
 struct Stroke {
   Colour colour;
   double width;  // as a share of the usual one
 };
 
-Stroke StrokeOf(LineKind kind) {
-  switch (kind) {
+Stroke StrokeOf(const Line& line, const Style& style) {
+  const Colour masz = ColourOf(style.masze, line.attribut, kMeasureInk);
+  switch (line.kind) {
     case LineKind::kAnsicht:
-      return {kInk, 1.0};
+      return {kInk, style.pens.rahmen};
     case LineKind::kOeffnungsSymbol:
-      return {kSymbolInk, 1.0};
+      return {ColourOf(style.symbole, line.attribut, kSymbolInk), style.pens.symbole};
     case LineKind::kBeschlag:
-      return {kFittingInk, 1.2};
+      return {kFittingInk, 1.2 * style.pens.rahmen};
     case LineKind::kMaszLinie:
-      return {kMeasureInk, 0.8};
+      return {masz, 0.8 * style.pens.masze};
     case LineKind::kHilfsLinie:
-      return {kMeasureInk, 0.6};
+      return {masz, 0.6 * style.pens.masze};
   }
   return {kInk, 1.0};
 }
@@ -144,9 +149,10 @@ void TraceWithoutSeam(cairo_t* cairo, const Shape& shape, const Layout& layout) 
   }
 }
 
-void PaintShape(cairo_t* cairo, const Shape& shape, const Layout& layout, double longSide) {
+void PaintShape(cairo_t* cairo, const Shape& shape, const Layout& layout, double longSide,
+                const Style& style) {
   TraceOutline(cairo, shape, layout);
-  SetColour(cairo, FillColour(shape.kind));
+  SetColour(cairo, FillColour(shape, style));
   if (shape.kind == ShapeKind::kMaszPfeil) {
     cairo_fill(cairo);
     return;
@@ -157,13 +163,16 @@ void PaintShape(cairo_t* cairo, const Shape& shape, const Layout& layout, double
   } else {
     cairo_fill_preserve(cairo);
   }
+  const bool sprosse = shape.kind == ShapeKind::kSprosse;
   SetColour(cairo, kInk);
-  cairo_set_line_width(cairo, longSide * kStrokeShare);
+  cairo_set_line_width(
+      cairo, longSide * kStrokeShare * (sprosse ? style.pens.sprossen : style.pens.rahmen));
   cairo_stroke(cairo);
 }
 
-void PaintLine(cairo_t* cairo, const Line& line, const Layout& layout, double longSide) {
-  const Stroke stroke = StrokeOf(line.kind);
+void PaintLine(cairo_t* cairo, const Line& line, const Layout& layout, double longSide,
+               const Style& style) {
+  const Stroke stroke = StrokeOf(line, style);
   const double dashes[] = {longSide * kDashShare, longSide * kDashGapShare};
   const Point from = ToPaper(layout, line.from);
   const Point to = ToPaper(layout, line.to);
@@ -205,8 +214,10 @@ void TraceLetter(cairo_t* cairo, std::string_view path) {
   }
 }
 
-void PaintText(cairo_t* cairo, const Text& text, const Layout& layout) {
+void PaintText(cairo_t* cairo, const Text& text, const Layout& layout, double longSide,
+               const Style& style) {
   const double height = text.hoehe * layout.scale;
+  if (height * kLongSidePixels / longSide < style.sizes.smallestText) return;
   const double hundredth = height * (1.0 - kPenWidth) / 100.0;
   if (!std::isnormal(hundredth) || text.inhalt.empty()) return;
   const Point paper = ToPaper(layout, text.mitte);
@@ -223,7 +234,7 @@ void PaintText(cairo_t* cairo, const Text& text, const Layout& layout) {
     cairo_translate(cairo, letter.width + kLetterGap, 0.0);
   }
   cairo_restore(cairo);
-  SetColour(cairo, kMeasureInk);
+  SetColour(cairo, ColourOf(style.masze, text.attribut, kMeasureInk));
   cairo_set_dash(cairo, nullptr, 0, 0.0);
   cairo_set_line_width(cairo, kPenWidth * height);
   cairo_stroke(cairo);
@@ -246,13 +257,13 @@ bool FitLayout(const Box& box, double longSide, Layout& layout) {
   return true;
 }
 
-void PaintScene(cairo_t* cairo, const Scene& scene, const Layout& layout) {
+void PaintScene(cairo_t* cairo, const Scene& scene, const Layout& layout, const Style& style) {
   const double longSide = std::max(layout.width, layout.height);
   cairo_set_line_join(cairo, CAIRO_LINE_JOIN_ROUND);
   cairo_set_line_cap(cairo, CAIRO_LINE_CAP_ROUND);
-  for (const Shape& shape : scene.shapes) PaintShape(cairo, shape, layout, longSide);
-  for (const Line& line : scene.lines) PaintLine(cairo, line, layout, longSide);
-  for (const Text& text : scene.texts) PaintText(cairo, text, layout);
+  for (const Shape& shape : scene.shapes) PaintShape(cairo, shape, layout, longSide, style);
+  for (const Line& line : scene.lines) PaintLine(cairo, line, layout, longSide, style);
+  for (const Text& text : scene.texts) PaintText(cairo, text, layout, longSide, style);
 }
 
 }  // namespace lintavo::drawing

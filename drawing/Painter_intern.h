@@ -4,6 +4,7 @@
 #include <cairo.h>
 
 #include "lintavo/drawing/Scene.h"
+#include "lintavo/drawing/Style.h"
 
 namespace lintavo::drawing {
 
@@ -20,8 +21,8 @@ struct Layout {
 /// extent is zero, or so large or small that no finite scale exists.
 bool FitLayout(const Box& box, double longSide, Layout& layout);
 
-/// Paints every shape, filled with the colour of its kind and thinly outlined, then
-/// the lines, then the texts.
-void PaintScene(cairo_t* cairo, const Scene& scene, const Layout& layout);
+/// Paints every shape, filled with its colour in the style or that of its kind and thinly outlined,
+/// then the lines, then the texts.
+void PaintScene(cairo_t* cairo, const Scene& scene, const Layout& layout, const Style& style);
 
 }  // namespace lintavo::drawing

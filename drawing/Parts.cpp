@@ -21,11 +21,16 @@ constexpr long kArtSprossen = 3;
 // The façade's segment number for the joined outline of a bent part.
 constexpr long kAlleSegmente = -1;
 
+// The number of the attribute that is a part's colour from a side.
+long FarbNummer(ViewSide side) {
+  return side == ViewSide::kInside ? 1 : 2;
+}
+
 void AddShape(Scene& scene, ShapeKind kind, long fluegel, long bauteil,
-              const CFeApiPolygon& polygon) {
+              const CFeApiPolygon& polygon, long attribut) {
   std::vector<Point> outline = ToOutline(polygon);
   if (outline.size() < 3) return;
-  scene.shapes.push_back({kind, fluegel, bauteil, std::move(outline)});
+  scene.shapes.push_back({kind, fluegel, bauteil, std::move(outline), attribut});
 }
 
 bool RahmenUmriss(const CFeApi& window, long art, long i, CFeApiPolygon& outline) {
@@ -35,7 +40,7 @@ bool RahmenUmriss(const CFeApi& window, long art, long i, CFeApiPolygon& outline
   return window.GetRahmenBauteilUmriss(art, i, kAlleSegmente, outline, length, start, end) == 1;
 }
 
-void AddFluegelBauteile(const CFeApi& window, long fluegel, long art, ShapeKind kind,
+void AddFluegelBauteile(const CFeApi& window, long fluegel, long art, ShapeKind kind, ViewSide side,
                         Scene& scene) {
   for (long i = window.GetFluegelAnzahlBauteile(art, fluegel) - 1; i >= 0; --i) {
     CFeApiPolygon outline;
@@ -44,7 +49,8 @@ void AddFluegelBauteile(const CFeApi& window, long fluegel, long art, ShapeKind 
     double end = 0.0;
     if (window.GetFluegelBauteilUmriss(art, fluegel, i, kAlleSegmente, outline, length, start,
                                        end) == 1) {
-      AddShape(scene, kind, fluegel, i, outline);
+      AddShape(scene, kind, fluegel, i, outline,
+               window.GetFluegelBauteilAttribut(art, fluegel, i, FarbNummer(side)));
     }
   }
 }
@@ -63,28 +69,35 @@ ShapeKind FuellungKind(eFeApiFuellArten art) {
 
 // The filling's own contour lacks short edges, so on an arch it would leave gaps:
 // the sash's inner outline is what it fills.
-void AddFuellung(const CFeApi& window, long fluegel, Scene& scene) {
+void AddFuellung(const CFeApi& window, long fluegel, ViewSide side, Scene& scene) {
   CFeApiPolygon outline;
   if (window.GetFluegelInnenPolygon(fluegel, 0.0, outline) != 1) return;
-  AddShape(scene, FuellungKind(window.GetFluegelFuellungArt(fluegel)), fluegel, -1, outline);
+  const ShapeKind kind = FuellungKind(window.GetFluegelFuellungArt(fluegel));
+  // What is seen between slats has no material: the attributes are the slats'.
+  const long attribut = kind == ShapeKind::kLamellen
+                            ? 0
+                            : window.GetFluegelFuellungAttribut(fluegel, FarbNummer(side));
+  AddShape(scene, kind, fluegel, -1, outline, attribut);
 }
 
-void AddLamellen(const CFeApi& window, long fluegel, Scene& scene) {
+void AddLamellen(const CFeApi& window, long fluegel, ViewSide side, Scene& scene) {
+  const long attribut = window.GetFluegelFuellungAttribut(fluegel, FarbNummer(side));
   for (long i = window.GetFluegelAnzahlLamellen(fluegel) - 1; i >= 0; --i) {
     CFeApiPolygon outline;
     if (window.GetFluegelLamellenUmriss(fluegel, i, outline) == 1) {
-      AddShape(scene, ShapeKind::kLamelle, fluegel, i, outline);
+      AddShape(scene, ShapeKind::kLamelle, fluegel, i, outline, attribut);
     }
   }
 }
 
 // Mullions and transoms, or the extra parts around the frame.
-void AddEinzelteile(const CFeApi& window, bool aussen, Scene& scene) {
+void AddEinzelteile(const CFeApi& window, bool aussen, ViewSide side, Scene& scene) {
   for (long i = window.GetAnzahlRahmenBauteile(kArtEinzelteile) - 1; i >= 0; --i) {
     if ((window.GetRahmenBauteilTyp(kArtEinzelteile, i) == kTypAussen) != aussen) continue;
     CFeApiPolygon polygon;
     if (!RahmenUmriss(window, kArtEinzelteile, i, polygon)) continue;
-    AddShape(scene, aussen ? ShapeKind::kZusatzteil : ShapeKind::kEinzelteil, -1, i, polygon);
+    AddShape(scene, aussen ? ShapeKind::kZusatzteil : ShapeKind::kEinzelteil, -1, i, polygon,
+             window.GetRahmenBauteilAttribut(kArtEinzelteile, i, FarbNummer(side)));
   }
 }
 
@@ -98,23 +111,24 @@ std::vector<Point> ToOutline(const CFeApiPolygon& polygon) {
   return outline;
 }
 
-void AddRahmenShapes(const CFeApi& window, Scene& scene) {
-  AddEinzelteile(window, false, scene);
+void AddRahmenShapes(const CFeApi& window, ViewSide side, Scene& scene) {
+  AddEinzelteile(window, false, side, scene);
   for (long i = window.GetAnzahlRahmenBauteile(kArtRahmenteile) - 1; i >= 0; --i) {
     CFeApiPolygon outline;
     if (RahmenUmriss(window, kArtRahmenteile, i, outline)) {
-      AddShape(scene, ShapeKind::kRahmenteil, -1, i, outline);
+      AddShape(scene, ShapeKind::kRahmenteil, -1, i, outline,
+               window.GetRahmenBauteilAttribut(kArtRahmenteile, i, FarbNummer(side)));
     }
   }
-  AddEinzelteile(window, true, scene);
+  AddEinzelteile(window, true, side, scene);
 }
 
-void AddFluegelShapes(const CFeApi& window, long fluegel, Scene& scene) {
-  AddFuellung(window, fluegel, scene);
-  AddLamellen(window, fluegel, scene);
-  AddFluegelBauteile(window, fluegel, kArtSprossen, ShapeKind::kSprosse, scene);
-  AddFluegelBauteile(window, fluegel, kArtEinzelteile, ShapeKind::kFluegelEinzelteil, scene);
-  AddFluegelBauteile(window, fluegel, kArtRahmenteile, ShapeKind::kFluegelteil, scene);
+void AddFluegelShapes(const CFeApi& window, long fluegel, ViewSide side, Scene& scene) {
+  AddFuellung(window, fluegel, side, scene);
+  AddLamellen(window, fluegel, side, scene);
+  AddFluegelBauteile(window, fluegel, kArtSprossen, ShapeKind::kSprosse, side, scene);
+  AddFluegelBauteile(window, fluegel, kArtEinzelteile, ShapeKind::kFluegelEinzelteil, side, scene);
+  AddFluegelBauteile(window, fluegel, kArtRahmenteile, ShapeKind::kFluegelteil, side, scene);
 }
 
 }  // namespace lintavo::drawing

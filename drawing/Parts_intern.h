@@ -7,10 +7,10 @@
 namespace lintavo::drawing {
 
 /// Appends the parts of the window's frame, those that lie behind first.
-void AddRahmenShapes(const CFeApi& window, Scene& scene);
+void AddRahmenShapes(const CFeApi& window, ViewSide side, Scene& scene);
 
 /// Appends the parts of a sash, those that lie behind first, its filling leading.
-void AddFluegelShapes(const CFeApi& window, long fluegel, Scene& scene);
+void AddFluegelShapes(const CFeApi& window, long fluegel, ViewSide side, Scene& scene);
 
 /// The points of an outline that the façade has handed out.
 std::vector<Point> ToOutline(const CFeApiPolygon& polygon);

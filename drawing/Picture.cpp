@@ -68,9 +68,10 @@ bool FormatFromPath(std::string_view path, PictureFormat& format) {
   return true;
 }
 
-PictureStatus WritePicture(const Scene& scene, PictureFormat format, const std::string& path) {
+PictureStatus WritePicture(const Scene& scene, PictureFormat format, const std::string& path,
+                           const Style& style) {
   std::string bytes;
-  const PictureStatus status = RenderPicture(scene, format, bytes);
+  const PictureStatus status = RenderPicture(scene, format, bytes, style);
   if (status != PictureStatus::kOk) return status;
   std::ofstream file(FilePath(path), std::ios::binary | std::ios::trunc);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));

@@ -8,11 +8,11 @@
 #include "lintavo/drawing/Picture.h"
 
 #include "Painter_intern.h"
+#include "Paper_intern.h"
 
 namespace lintavo::drawing {
 namespace {
 
-constexpr double kLongSidePixels = 1600.0;
 constexpr double kLongSidePoints = 800.0;
 
 struct SurfaceDeleter {
@@ -40,41 +40,45 @@ PictureStatus ToStatus(cairo_status_t status) {
 }
 
 cairo_status_t PaintOnto(cairo_surface_t* surface, const Scene& scene, const Layout& layout,
-                         bool whiteGround) {
+                         const Style& style, bool whiteGround) {
   const Context cairo(cairo_create(surface));
   if (whiteGround) {
     cairo_set_source_rgb(cairo.get(), 1.0, 1.0, 1.0);
     cairo_paint(cairo.get());
   }
-  PaintScene(cairo.get(), scene, layout);
+  PaintScene(cairo.get(), scene, layout, style);
   return cairo_status(cairo.get());
 }
 
-PictureStatus RenderVector(Surface surface, const Scene& scene, const Layout& layout) {
-  const cairo_status_t painted = PaintOnto(surface.get(), scene, layout, false);
+PictureStatus RenderVector(Surface surface, const Scene& scene, const Layout& layout,
+                           const Style& style) {
+  const cairo_status_t painted = PaintOnto(surface.get(), scene, layout, style, false);
   if (painted != CAIRO_STATUS_SUCCESS) return ToStatus(painted);
   cairo_surface_finish(surface.get());
   return ToStatus(cairo_surface_status(surface.get()));
 }
 
-PictureStatus RenderSvg(const Scene& scene, const Layout& layout, std::string& bytes) {
+PictureStatus RenderSvg(const Scene& scene, const Layout& layout, const Style& style,
+                        std::string& bytes) {
   Surface surface(
       cairo_svg_surface_create_for_stream(AppendBytes, &bytes, layout.width, layout.height));
   cairo_svg_surface_set_document_unit(surface.get(), CAIRO_SVG_UNIT_PX);
-  return RenderVector(std::move(surface), scene, layout);
+  return RenderVector(std::move(surface), scene, layout, style);
 }
 
-PictureStatus RenderPdf(const Scene& scene, const Layout& layout, std::string& bytes) {
+PictureStatus RenderPdf(const Scene& scene, const Layout& layout, const Style& style,
+                        std::string& bytes) {
   Surface surface(
       cairo_pdf_surface_create_for_stream(AppendBytes, &bytes, layout.width, layout.height));
   cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_TITLE, scene.name.c_str());
-  return RenderVector(std::move(surface), scene, layout);
+  return RenderVector(std::move(surface), scene, layout, style);
 }
 
-PictureStatus RenderPng(const Scene& scene, const Layout& layout, std::string& bytes) {
+PictureStatus RenderPng(const Scene& scene, const Layout& layout, const Style& style,
+                        std::string& bytes) {
   const Surface surface(cairo_image_surface_create(
       CAIRO_FORMAT_RGB24, static_cast<int>(layout.width), static_cast<int>(layout.height)));
-  const cairo_status_t painted = PaintOnto(surface.get(), scene, layout, true);
+  const cairo_status_t painted = PaintOnto(surface.get(), scene, layout, style, true);
   if (painted != CAIRO_STATUS_SUCCESS) return ToStatus(painted);
   return ToStatus(cairo_surface_write_to_png_stream(surface.get(), AppendBytes, &bytes));
 }
@@ -89,7 +93,8 @@ bool HasPoint(const Scene& scene) {
 
 }  // namespace
 
-PictureStatus RenderPicture(const Scene& scene, PictureFormat format, std::string& bytes) {
+PictureStatus RenderPicture(const Scene& scene, PictureFormat format, std::string& bytes,
+                            const Style& style) {
   if (!HasPoint(scene)) return PictureStatus::kEmpty;
   Box box;
   if (!GetBox(scene, box)) return PictureStatus::kUnbounded;
@@ -102,13 +107,13 @@ PictureStatus RenderPicture(const Scene& scene, PictureFormat format, std::strin
   PictureStatus status = PictureStatus::kFailed;
   switch (format) {
     case PictureFormat::kSvg:
-      status = RenderSvg(scene, layout, drawn);
+      status = RenderSvg(scene, layout, style, drawn);
       break;
     case PictureFormat::kPdf:
-      status = RenderPdf(scene, layout, drawn);
+      status = RenderPdf(scene, layout, style, drawn);
       break;
     case PictureFormat::kPng:
-      status = RenderPng(scene, layout, drawn);
+      status = RenderPng(scene, layout, style, drawn);
       break;
   }
   if (status == PictureStatus::kOk) bytes = std::move(drawn);

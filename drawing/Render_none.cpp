@@ -4,7 +4,7 @@
 
 namespace lintavo::drawing {
 
-PictureStatus RenderPicture(const Scene&, PictureFormat, std::string&) {
+PictureStatus RenderPicture(const Scene&, PictureFormat, std::string&, const Style&) {
   return PictureStatus::kNoGraphics;
 }
 

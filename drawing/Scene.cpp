@@ -12,11 +12,16 @@
 #include "Dimensions_intern.h"
 #include "Layers_intern.h"
 #include "Lettering_intern.h"
+#include "Paper_intern.h"
 #include "Parts_intern.h"
 #include "Symbols_intern.h"
 
 namespace lintavo::drawing {
 namespace {
+
+// The pixels of a picture without its margins.
+constexpr double kPixelsAcross = kLongSidePixels * (1.0 - 2.0 * kMarginShare);
+constexpr int kPixelRounds = 4;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
@@ -27,9 +32,9 @@ void AddLayers(const CFeApi& window, const SceneOptions& options, Scene& scene) 
   std::vector<std::size_t> ends;
   for (const long layer : layers) {
     if (layer == kRahmenEbene) {
-      AddRahmenShapes(window, scene);
+      AddRahmenShapes(window, options.side, scene);
     } else {
-      AddFluegelShapes(window, layer, scene);
+      AddFluegelShapes(window, layer, options.side, scene);
     }
     ends.push_back(scene.shapes.size());
   }
@@ -39,12 +44,32 @@ void AddLayers(const CFeApi& window, const SceneOptions& options, Scene& scene) 
   }
 }
 
-void AddMeasures(const CFeApi& window, Scene& scene) {
-  Box box;
-  if (!GetBox(scene, box)) return;
-  const DimensionSizes sizes = SizesFor(std::max(box.right - box.left, box.top - box.bottom));
+double ExtentOf(const Box& box) {
+  return std::max(box.right - box.left, box.top - box.bottom);
+}
+
+void AddMeasures(const CFeApi& window, const Box& box, const DimensionSizes& sizes, Scene& scene) {
   const std::vector<Dimension> dimensions = AddDimensions(window, box, sizes, scene);
   AddDimensionTexts(dimensions, sizes, scene);
+}
+
+void AddMeasures(const CFeApi& window, const MeasureSizes& wanted, Scene& scene) {
+  Box box;
+  if (!GetBox(scene, box)) return;
+  if (!wanted.pixel) {
+    AddMeasures(window, box, SizesFor(ExtentOf(box), wanted, 1.0), scene);
+    return;
+  }
+  // How large a pixel is depends on what the dimensions add to the picture, and the
+  // other way round: a few rounds bring both together.
+  const Scene bare = scene;
+  Box whole = box;
+  for (int round = 0; round < kPixelRounds; ++round) {
+    scene = bare;
+    const double unit = ExtentOf(whole) / kPixelsAcross;
+    AddMeasures(window, box, SizesFor(ExtentOf(box), wanted, unit), scene);
+    if (!GetBox(scene, whole)) return;
+  }
 }
 
 // Widens a box; false for a point that is no finite one.
@@ -70,7 +95,7 @@ Scene BuildScene(const CFeApi& window, const SceneOptions& options) {
     AddView(window, options.side, scene);
   }
   AddFittings(window, options.side, scene);
-  if (options.dimensions) AddMeasures(window, scene);
+  if (options.dimensions) AddMeasures(window, options.sizes, scene);
   return scene;
 }
 

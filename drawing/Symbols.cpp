@@ -88,6 +88,7 @@ void AddSymbol(const CFeApi& window, long fluegel, ViewSide side, std::size_t fi
   kind.kind = LineKind::kOeffnungsSymbol;
   kind.fluegel = fluegel;
   kind.dashed = !OpensTowards(window, fluegel, side) && !StaysInItsPlane(window, fluegel);
+  kind.attribut = OpensTowards(window, fluegel, ViewSide::kOutside) ? 2 : 1;
   const std::vector<CMStrecke> whole = ToStrecken(record);
   const std::vector<GEOM2_Polygon> covers = CoversOf(whole, firstInFront, scene);
   std::vector<CMStrecke> visible;

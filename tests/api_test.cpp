@@ -259,8 +259,36 @@ TEST(Fassade, AnEmptyWindowAndBadIndicesAnswerFailureValues) {
     EXPECT_EQ(api.GetFluegelAnzahlBauteile(1, i), 0);
     EXPECT_EQ(api.GetZMaszLaenge(i), 0.0);
     EXPECT_EQ(api.SetSprossenBreite(0, i, 2.0), 0);
+    EXPECT_EQ(api.GetRahmenBauteilAttribut(1, i, 1), 0);
+    EXPECT_EQ(api.GetRahmenBauteilAttribut(i, 0, 1), 0);
+    EXPECT_EQ(api.GetFluegelBauteilAttribut(1, i, 0, 1), 0);
+    EXPECT_EQ(api.GetFluegelBauteilAttribut(1, 0, i, 1), 0);
+    EXPECT_EQ(api.GetFluegelFuellungAttribut(i, 1), 0);
+    for (const long n : {i, 0L, 5L}) {
+      EXPECT_EQ(api.GetRahmenBauteilAttribut(1, 0, n), 0);
+      EXPECT_EQ(api.GetFluegelBauteilAttribut(1, 0, 0, n), 0);
+      EXPECT_EQ(api.GetFluegelFuellungAttribut(0, n), 0);
+    }
   }
   EXPECT_EQ(api.GetAnzahlRahmenBauteile(3), 0);
+}
+
+TEST(Fassade, AttributesComeInTheOrderOfTheirNumbers) {
+  // The file gives them as a3, a1, a4, a2; the filling as a1 to a4.
+  const std::string macro =
+      "[Achsen]#Y1=120#X1=80#[Rahmen]#Rahmendicke=6.8#RahmenDefaults=7,0,11,12,13,14,6.8#"
+      "[Fluegel1]#Typ=0,0#Knoten1=0,0#Knoten2=1,1#Rahmendicke=6.8#"
+      "RahmenDefaults=7.8,1.5,21,22,23,24,6.8#"
+      "Fuellung=0,0,0,2.4,0,0,0,0.5,31,32,33,34#";
+  CFeApi api;
+  ASSERT_EQ(api.ReadFromBuffer(static_cast<long>(macro.size()), macro.c_str()), 1);
+  const long rahmen[] = {12, 14, 11, 13};
+  const long fluegel[] = {22, 24, 21, 23};
+  for (long n = 1; n <= 4; ++n) {
+    EXPECT_EQ(api.GetRahmenBauteilAttribut(1, 0, n), rahmen[n - 1]) << n;
+    EXPECT_EQ(api.GetFluegelBauteilAttribut(1, 0, 0, n), fluegel[n - 1]) << n;
+    EXPECT_EQ(api.GetFluegelFuellungAttribut(0, n), 30 + n) << n;
+  }
 }
 
 TEST(Fassade, OutlinesComeWithLengthAndCutAnglesForACuttingList) {

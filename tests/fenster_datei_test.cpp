@@ -158,6 +158,13 @@ TEST(Makrodatei, TheParameterFormStandsBesideTheFile) {
   CString sample;
   EXPECT_TRUE(form.GetString("Fluegel2", "Sprossenbild1", sample));
   EXPECT_EQ(sample, "00,1,2,1,2");
+  // Under a name of its own it is the same form, and the name is taken as it is.
+  EXPECT_TRUE(fenster.SaveParameterFormular((ordner / "Formular").c_str()));
+  CIniFile same;
+  ASSERT_TRUE(same.Read((ordner / "Formular").c_str()));
+  EXPECT_EQ(same.GetLines(), form.GetLines());
+  EXPECT_FALSE(fenster.SaveParameterFormular(""));
+  EXPECT_FALSE(fenster.SaveParameterFormular("/gibt/es/nicht/f.txt"));
   EXPECT_FALSE(fenster.SaveToFile(false, "/gibt/es/nicht/f.aqz"));
   EXPECT_FALSE(fenster.SaveToFile(""));
 }

@@ -415,6 +415,68 @@ TEST(SceneDimensions, ThatAreShortHaveTheirArrowsOutside) {
   EXPECT_TRUE(narrow.texts[2].mitte.x < 100.0 || narrow.texts[2].mitte.x > 100.5);
 }
 
+// The smaller side of the box around a shape.
+double SmallerSide(const Shape& shape) {
+  Box box{1e9, 1e9, -1e9, -1e9};
+  for (const Point& p : shape.outline) {
+    box = {std::min(box.left, p.x), std::min(box.bottom, p.y), std::max(box.right, p.x),
+           std::max(box.top, p.y)};
+  }
+  return std::min(box.right - box.left, box.top - box.bottom);
+}
+
+TEST(SceneDimensions, TakeTheSizesThatAreAskedFor) {
+  const CFeApi window = Example("drehkipp_einfluegelig");
+  SceneOptions options;
+  options.sizes.textHeight = 5.0;
+  options.sizes.arrowWidth = 1.25;
+  options.sizes.lineFactor = 2.0;
+  const Scene usual = BuildScene(window);
+  const Scene scene = BuildScene(window, options);
+  ASSERT_FALSE(scene.texts.empty());
+  for (const Text& text : scene.texts) EXPECT_DOUBLE_EQ(text.hoehe, 5.0);
+  for (const Shape& shape : scene.shapes) {
+    if (shape.kind != ShapeKind::kMaszPfeil) continue;
+    EXPECT_NEAR(SmallerSide(shape), 1.25, 1e-9);
+  }
+  // The window begins at 0, so a line below or left of it lies twice as far out.
+  const auto farthest = [](const Scene& s, double Point::*across) {
+    double least = 0.0;
+    for (const Line& line : s.lines) {
+      if (line.kind == LineKind::kMaszLinie) least = std::min(least, line.from.*across);
+    }
+    return least;
+  };
+  ASSERT_LT(farthest(usual, &Point::x) + farthest(usual, &Point::y), 0.0);
+  EXPECT_NEAR(farthest(scene, &Point::x), 2.0 * farthest(usual, &Point::x), 1e-9);
+  EXPECT_NEAR(farthest(scene, &Point::y), 2.0 * farthest(usual, &Point::y), 1e-9);
+}
+
+TEST(SceneDimensions, PixelsAreThoseOfThePicture) {
+  SceneOptions options;
+  options.sizes.pixel = true;
+  options.sizes.textHeight = 30.0;
+  const Scene scene = BuildScene(Example("drehkipp_einfluegelig"), options);
+  Box box;
+  ASSERT_TRUE(GetBox(scene, box));
+  // 1600 pixels less a margin of 64 on each side.
+  const double pixel = std::max(box.right - box.left, box.top - box.bottom) / 1472.0;
+  for (const Text& text : scene.texts) EXPECT_NEAR(text.hoehe, 30.0 * pixel, 0.1 * pixel);
+}
+
+TEST(SceneDimensions, SizesBeyondReasonStayWithinTheWindow) {
+  for (const double size : {1e300, HUGE_VAL, std::nan(""), -1.0}) {
+    for (const bool pixel : {false, true}) {
+      SceneOptions options;
+      options.sizes = {pixel, size, size, size, size, size, size};
+      const Scene scene = BuildScene(Example("drehkipp_einfluegelig"), options);
+      Box box;
+      ASSERT_TRUE(GetBox(scene, box)) << size;
+      EXPECT_LT(std::max(box.right - box.left, box.top - box.bottom), 130.0 * 30.0) << size;
+    }
+  }
+}
+
 TEST(SceneDimensions, OutOfReachAreLeftOut) {
   for (const char* distance : {"1e300", "-1400", "nan"}) {
     const CFeApi window =

@@ -1,4 +1,5 @@
 // The `lintavo` command, run as a user runs it: output, messages, exit statuses.
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -15,7 +16,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::string kWindows = LINTAVO_EXAMPLES_DIR "/windows/";
+const std::string kExamples = LINTAVO_EXAMPLES_DIR "/";
+const std::string kWindows = kExamples + "windows/";
 const std::string kFanlight = kWindows + "dreiteilig_mit_oberlicht.aqz";
 
 struct Outcome {
@@ -26,6 +28,14 @@ struct Outcome {
 
 bool Contains(const std::string& text, const std::string& part) {
   return text.find(part) != std::string::npos;
+}
+
+// An SVG file with all its attributes as name:value, in whichever of the two forms that
+// SVG allows they stand.
+std::string Attributes(std::string svg) {
+  std::erase_if(svg, [](char c) { return c == ' ' || c == '"'; });
+  std::replace(svg.begin(), svg.end(), '=', ':');
+  return svg;
 }
 
 // Runs the command in a folder of its own, which is removed afterwards.
@@ -210,16 +220,160 @@ TEST_F(Tool, OutputThatCannotBeWrittenIsAnError) {
   EXPECT_EQ(WEXITSTATUS(raw), 1);
 }
 
+TEST_F(Tool, MakesTheWindowOfAParameterFile) {
+  // As the examples' page tells: with the parts outside, 185 x 171.
+  const std::string target = Path("schlafzimmer.aqz");
+  const Outcome made = Run("position '" + kExamples + "Positionen/schlafzimmer.txt' --base '" +
+                           kExamples + "' -o '" + target + "'");
+  EXPECT_EQ(made.status, 0) << made.err;
+  EXPECT_TRUE(Contains(made.out, "Size    185 x 171\n")) << made.out;
+  EXPECT_TRUE(Contains(made.out, "Written to " + target)) << made.out;
+  const Outcome shown = Run("show '" + target + "'");
+  EXPECT_EQ(shown.status, 0) << shown.err;
+  EXPECT_EQ(made.out, shown.out + "\nWritten to " + target + "\n");
+
+  const Outcome unsaved =
+      Run("position '" + kExamples + "Positionen/schlafzimmer.txt' --base '" + kExamples + "'");
+  EXPECT_EQ(unsaved.status, 0) << unsaved.err;
+  EXPECT_EQ(unsaved.out, shown.out);
+}
+
+TEST_F(Tool, ParameterFilesThatGiveNoWindowAreRefused) {
+  const auto position = [&](const std::string& file) {
+    return "position '" + file + "' --base '" + kExamples + "'";
+  };
+  const auto write = [&](const std::string& name, const std::string& text) {
+    std::ofstream(Path(name), std::ios::binary) << text;
+    return Path(name);
+  };
+  ExpectError(position(Path("fehlt.txt")), "Die Datei '" + Path("fehlt.txt") + "'");
+  const std::string ohneTyp = write("ohne_typ.txt", "[Allgemeines]\nText1=Bad\n");
+  ExpectError(position(ohneTyp), "lintavo: " + ohneTyp + ": ");
+  const std::string fremd = write("fremd.txt", "[Allgemeines]\nTyp=Gibt es nicht\n");
+  ExpectError(position(fremd), fremd + ": Die Datei '" + kExamples);
+  const std::string muster =
+      write("muster.txt",
+            "[Allgemeines]\nTyp=Einfluegelig\n[Fluegel1]\nSprossenbild1=Kein Muster,1,2,1,2\n");
+  ExpectError(position(muster), muster + ": ");
+  ExpectError(position(muster) + " -o '" + Path("a.aqz") + "'", "muster.txt");
+  EXPECT_FALSE(fs::exists(Path("a.aqz")));
+
+  const std::string kitchen = position(kExamples + "Positionen/kueche.txt");
+  ExpectError(kitchen + " -o /no/such/folder/a.aqz",
+              "/no/such/folder/a.aqz: the file cannot be written");
+  const std::string kueche = ReadBytes(kExamples + "Positionen/kueche.txt");
+  const std::string own = write("kueche.txt", kueche);
+  ExpectError(position(own) + " -o '" + own + "'", "would overwrite");
+  EXPECT_EQ(ReadBytes(own), kueche);
+}
+
+TEST_F(Tool, AFormFilledInIsAPosition) {
+  const std::string form = Path("Formular");
+  const Outcome written = Run("form '" + kExamples + "Fenster/Einfluegelig.ini' -o '" + form + "'");
+  EXPECT_EQ(written.status, 0) << written.err;
+  EXPECT_EQ(written.out, "");
+  std::string text = ReadBytes(form);
+  EXPECT_TRUE(Contains(text, "Typ=Einfluegelig\n")) << text;
+  // 100 x 130 in tenths; the form's sample is a pattern that no folder has.
+  const std::size_t width = text.find("Breite=1000\n");
+  ASSERT_NE(width, std::string::npos) << text;
+  text.replace(width, 11, "Breite=1200");
+  const std::size_t sample = text.find("Sprossenbild1=");
+  ASSERT_NE(sample, std::string::npos);
+  text.erase(sample, text.find('\n', sample) + 1 - sample);
+  std::ofstream(form, std::ios::binary) << text;
+  const Outcome made = Run("position '" + form + "' --base '" + kExamples + "'");
+  EXPECT_EQ(made.status, 0) << made.err;
+  EXPECT_TRUE(Contains(made.out, "Size    120 x 130\n")) << made.out;
+
+  const std::string packed = "form '" + kWindows + "drehkipp_einfluegelig.cqz' -o '";
+  EXPECT_EQ(Run(packed + form + "'").status, 0);
+  EXPECT_TRUE(Contains(ReadBytes(form), "Typ=drehkipp_einfluegelig\n"));
+  ExpectError(packed + "/no/such/folder/f.txt'", "/no/such/folder/f.txt: the file cannot be");
+  ExpectError("form '" + Path("fehlt.aqz") + "' -o '" + Path("f.txt") + "'", "fehlt.aqz");
+  EXPECT_FALSE(fs::exists(Path("f.txt")));
+  fs::copy_file(kFanlight, Path("eigen.aqz"));
+  ExpectError("form '" + Path("eigen.aqz") + "' -o '" + Path("eigen.aqz") + "'", "would overwrite");
+  EXPECT_EQ(ReadBytes(Path("eigen.aqz")), ReadBytes(kFanlight));
+}
+
+TEST_F(Tool, PicturesTakeColoursPensAndSizesFromFiles) {
+  // Attributes stand as a3, a1, a4, a2: frame 1 inside and 2 outside, sash 3 and 9.
+  std::string macro = ReadBytes(kWindows + "drehkipp_einfluegelig.aqz");
+  const auto replace = [&](const std::string& from, const std::string& to) {
+    for (std::size_t i = macro.find(from); i != std::string::npos; i = macro.find(from, i + 1)) {
+      macro.replace(i, from.size(), to);
+    }
+  };
+  replace("=7,0,1,2,1,2,6.8", "=7,0,5,1,5,2,6.8");
+  replace("=7.8,1.5,1,3,1,3,6.8", "=7.8,1.5,5,3,5,9,6.8");
+  std::ofstream(Path("a.aqz"), std::ios::binary) << macro;
+  std::ofstream(Path("m.ini")) << "[Bauteil1]\nRGB2d=255,0,0\n[Bauteil2]\nRGB2d=0,255,0\n"
+                                  "[Bauteil3]\nRGB2d=0,0,255\n"
+                                  "[Oeffnungssymbol1]\nRGB2d=255,255,0\n"
+                                  "[Vermaszung1]\nRGB2d=0,255,255\n"
+                                  "[Vermaszung2]\nRGB2d=255,0,255\n";
+  std::ofstream(Path("s.ini")) << "[Stiftbreiten]\nOeffnungssymbole=4\n";
+  const auto draw = [&](const std::string& options) {
+    const Outcome outcome =
+        Run("draw '" + Path("a.aqz") + "' -o '" + Path("a.svg") + "' " + options);
+    EXPECT_EQ(outcome.status, 0) << options << ": " << outcome.err;
+    return Attributes(ReadBytes(Path("a.svg")));
+  };
+  const std::string red = "rgb(100%,0%,0%)";
+  const std::string green = "rgb(0%,100%,0%)";
+  const std::string blue = "rgb(0%,0%,100%)";
+  const std::string plain = draw("");
+  for (const std::string& colour : {red, green, blue}) EXPECT_FALSE(Contains(plain, colour));
+
+  const std::string materials = "--materials '" + Path("m.ini") + "'";
+  const std::string inside = draw(materials);
+  for (const std::string& colour :
+       {red, blue, std::string("rgb(100%,100%,0%)"), std::string("rgb(0%,100%,100%)"),
+        std::string("rgb(100%,0%,100%)")}) {
+    EXPECT_TRUE(Contains(inside, colour)) << colour;
+  }
+  EXPECT_FALSE(Contains(inside, green));
+  // There is no ninth material: the sash has its usual colour.
+  const std::string outside = draw(materials + " --outside");
+  EXPECT_TRUE(Contains(outside, green));
+  EXPECT_FALSE(Contains(outside, red));
+  EXPECT_FALSE(Contains(outside, blue));
+
+  // Pens are shares of the usual width, 0.0009 of a side of 1600: four times 1.44.
+  const std::string thick = "stroke-width:5.76";
+  EXPECT_FALSE(Contains(plain, thick));
+  EXPECT_TRUE(Contains(draw("--settings '" + Path("s.ini") + "'"), thick));
+
+  const std::string command = "draw '" + Path("a.aqz") + "' -o '" + Path("b.svg") + "' ";
+  ExpectError(command + "--settings '" + Path("x.ini") + "'", "x.ini: the file cannot be opened");
+  ExpectError(command + "--materials '" + Path("x.ini") + "'", "x.ini: the file cannot be opened");
+  EXPECT_FALSE(fs::exists(Path("b.svg")));
+}
+
 TEST_F(Tool, WrongUsageEndsWithTwo) {
   const std::string file = "'" + kFanlight + "'";
-  for (const std::string& arguments :
-       {std::string(), std::string("show"), std::string("unknown ") + file,
-        "show " + file + " more", "fit " + file + " 100", "fit " + file + " 100 0",
-        "fit " + file + " 100 -5", "fit " + file + " 100,5 100", "fit " + file + " nan 100",
-        "fit " + file + " 1e999 100", "fit " + file + " 100 100 -o a.CQZ", "draw " + file,
-        "draw " + file + " -o a.gif", "draw " + file + " -o a.png --fit 100",
-        "draw " + file + " -o a.png --fit 100x0",
-        "draw " + file + " -o a.png --inside --outside"}) {
+  for (const std::string& arguments : {std::string(),
+                                       std::string("show"),
+                                       std::string("unknown ") + file,
+                                       "show " + file + " more",
+                                       "fit " + file + " 100",
+                                       "fit " + file + " 100 0",
+                                       "fit " + file + " 100 -5",
+                                       "fit " + file + " 100,5 100",
+                                       "fit " + file + " nan 100",
+                                       "fit " + file + " 1e999 100",
+                                       "fit " + file + " 100 100 -o a.CQZ",
+                                       "draw " + file,
+                                       "draw " + file + " -o a.gif",
+                                       "draw " + file + " -o a.png --fit 100",
+                                       "draw " + file + " -o a.png --fit 100x0",
+                                       "draw " + file + " -o a.png --inside --outside",
+                                       "draw " + file + " -o a.png --settings",
+                                       "position " + file,
+                                       std::string("position --base ."),
+                                       "position " + file + " --base . -o a.cqz",
+                                       "form " + file}) {
     const Outcome outcome = Run(arguments);
     EXPECT_EQ(outcome.status, 2) << arguments;
     EXPECT_NE(outcome.err, "") << arguments;
@@ -229,7 +383,8 @@ TEST_F(Tool, WrongUsageEndsWithTwo) {
 TEST_F(Tool, HelpAndVersionAreNoErrors) {
   const Outcome help = Run("--help");
   EXPECT_EQ(help.status, 0);
-  for (const char* command : {"show", "fit", "draw"}) EXPECT_TRUE(Contains(help.out, command));
+  for (const char* command : {"show", "fit", "draw", "position", "form"})
+    EXPECT_TRUE(Contains(help.out, command));
   EXPECT_EQ(Run("fit --help").status, 0);
   EXPECT_EQ(Run("--version").out, "lintavo 1.0.0\n");
 }

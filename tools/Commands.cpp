@@ -5,6 +5,7 @@
 #include "lintavo/drawing/Scene.h"
 #include "lintavo/drawing/Text.h"
 
+#include "StyleFile.h"
 #include "WindowFile.h"
 #include "WindowReport.h"
 
@@ -30,17 +31,35 @@ void FitCommand(const std::string& file, const OpeningSize& opening, const std::
 }
 
 void DrawCommand(const std::string& file, const std::optional<OpeningSize>& opening,
-                 const drawing::SceneOptions& options, const std::string& picture,
-                 drawing::PictureFormat format) {
+                 const StyleFiles& styleFiles, drawing::SceneOptions options,
+                 const std::string& picture, drawing::PictureFormat format) {
+  drawing::Style style;
+  if (!styleFiles.settings.empty()) LoadSettings(styleFiles.settings, style);
+  if (!styleFiles.materials.empty()) LoadMaterials(styleFiles.materials, style);
+  options.sizes = style.sizes;
   CFeApi window;
   LoadWindow(file, window);
   if (opening) FitWindow(file, opening->width, opening->height, window);
   const drawing::PictureStatus status =
-      drawing::WritePicture(drawing::BuildScene(window, options), format, picture);
+      drawing::WritePicture(drawing::BuildScene(window, options), format, picture, style);
   if (status == drawing::PictureStatus::kOk) return;
   const bool atTarget = status == drawing::PictureStatus::kNotWritten;
   throw CommandError(drawing::ToDisplayText(atTarget ? picture : file) + ": " +
                      drawing::StatusText(status));
+}
+
+void PositionCommand(const std::string& file, const std::string& baseDirectory,
+                     const std::string& target, std::ostream& out) {
+  CFeApi window;
+  MakePosition(file, baseDirectory, target, window);
+  PrintReport(window, out);
+  if (!target.empty()) out << "\nWritten to " << drawing::ToDisplayText(target) << '\n';
+}
+
+void FormCommand(const std::string& file, const std::string& target) {
+  CFeApi window;
+  LoadWindow(file, window);
+  SaveForm(file, target, window);
 }
 
 }  // namespace lintavo::tools

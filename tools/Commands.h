@@ -22,9 +22,23 @@ void ShowCommand(const std::string& file, std::ostream& out);
 void FitCommand(const std::string& file, const OpeningSize& opening, const std::string& target,
                 std::ostream& out);
 
-/// Draws the window, fitted into `opening` first when there is one.
+/// Files that tell how a picture looks; an empty name is none.
+struct StyleFiles {
+  std::string settings;
+  std::string materials;
+};
+
+/// Draws the window, fitted into `opening` first when there is one. The options'
+/// sizes are those of the settings file.
 void DrawCommand(const std::string& file, const std::optional<OpeningSize>& opening,
-                 const drawing::SceneOptions& options, const std::string& picture,
-                 drawing::PictureFormat format);
+                 const StyleFiles& styleFiles, drawing::SceneOptions options,
+                 const std::string& picture, drawing::PictureFormat format);
+
+/// Makes the window of a parameter file, prints it, and writes it when `target` is given.
+void PositionCommand(const std::string& file, const std::string& baseDirectory,
+                     const std::string& target, std::ostream& out);
+
+/// Writes the blank parameter form of the window, whose type is named as its file.
+void FormCommand(const std::string& file, const std::string& target);
 
 }  // namespace lintavo::tools

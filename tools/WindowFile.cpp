@@ -1,9 +1,13 @@
 // Reads, fits and writes the window that a command works on.
 #include "WindowFile.h"
 
+#include <filesystem>
 #include <fstream>
+#include <system_error>
 
 #include "lintavo/drawing/Text.h"
+#include "lintavo/ini/CIniFile.h"
+#include "lintavo/settings/CMFensterPosition.h"
 
 namespace lintavo::tools {
 namespace {
@@ -17,19 +21,37 @@ std::string LibraryMessage(const CFeApi& window) {
   return ToDisplayText(text, length);
 }
 
-// The library quotes a file's name when the file itself is at fault; every other
-// message is led by it.
-[[noreturn]] void Fail(const std::string& path, const std::string& message) {
-  const std::string file = ToDisplayText(path);
-  if (message.find("'" + file + "'") != std::string::npos) throw CommandError(message);
-  throw CommandError(file + ": " + message);
-}
-
 bool CanBeOpened(const std::string& path) {
   return std::ifstream(path).is_open();
 }
 
+// Nothing that a command makes may take the place of what it is made from.
+void RefuseSource(const std::string& source, const std::string& target) {
+  std::error_code unknown;
+  if (!std::filesystem::equivalent(source, target, unknown)) return;
+  Fail(target, "the file would overwrite the one that it is made from");
+}
+
+// The façade's form of a window that another object holds. Line feeds are skipped in
+// a buffer, so lines end with what cannot stand in one.
+bool TakeOver(const CMFenster& fenster, CFeApi& window) {
+  constexpr char kTrenner = '\r';
+  CIniFile document;
+  fenster.SaveToBuffer(document);
+  std::string text;
+  for (const CString& line : document.GetLines()) text.append(line.View()) += kTrenner;
+  return window.ReadFromBuffer(static_cast<long>(text.size()), text.data(), kTrenner) == 1;
+}
+
 }  // namespace
+
+// The library quotes a file's name when the file itself is at fault; every other
+// message is led by it.
+void Fail(const std::string& path, const std::string& message) {
+  const std::string file = ToDisplayText(path);
+  if (message.find("'" + file + "'") != std::string::npos) throw CommandError(message);
+  throw CommandError(file + ": " + message);
+}
 
 void LoadWindow(const std::string& path, CFeApi& window) {
   const bool compressed = CFeApi::IsFileCompressed(path.c_str()) == 1;
@@ -50,6 +72,33 @@ void FitWindow(const std::string& path, double width, double height, CFeApi& win
   if (window.Berechne() == 1) return;
   const std::string message = LibraryMessage(window);
   Fail(path, message.empty() ? "the window cannot be calculated" : message);
+}
+
+void MakePosition(const std::string& path, const std::string& baseDirectory,
+                  const std::string& target, CFeApi& window) {
+  CMFensterPosition position;
+  CString text;
+  const bool made = position.ReadFromFile(path.c_str(), baseDirectory.c_str());
+  position.GetError(text);
+  if (!made) Fail(path, ToDisplayText(text.View()));
+  if (position.GetFensterPtr()->GetAnzahlFluegel() <= 0) {
+    Fail(path, "there is no window in its type");
+  }
+  if (!TakeOver(*position.GetFensterPtr(), window)) {
+    const std::string message = LibraryMessage(window);
+    Fail(path, message.empty() ? "the window cannot be calculated" : message);
+  }
+  if (target.empty()) return;
+  RefuseSource(path, target);
+  if (!position.SaveToFile(target.c_str())) Fail(target, "the file cannot be written");
+}
+
+void SaveForm(const std::string& path, const std::string& target, CFeApi& window) {
+  RefuseSource(path, target);
+  const std::string typ = std::filesystem::path(path).stem().string();
+  if (window.WriteParameterFormular(target.c_str(), typ.c_str()) != 1) {
+    Fail(target, "the file cannot be written");
+  }
 }
 
 void SaveWindow(const std::string& path, CFeApi& window) {

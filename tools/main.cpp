@@ -29,6 +29,8 @@ struct Arguments {
   std::string height;
   std::string size;
   std::string target;
+  std::string base;
+  StyleFiles styleFiles;
   bool inside = false;
   bool outside = false;
   bool noDimensions = false;
@@ -115,6 +117,10 @@ void AddDraw(CLI::App& app, Arguments& arguments) {
       ->check(CheckPicture);
   command->add_option("--fit", arguments.size, "Fit into an opening first: WIDTHxHEIGHT")
       ->check(CheckSize);
+  command->add_option("--settings", arguments.styleFiles.settings,
+                      "Settings file: pens and the sizes of dimensions");
+  command->add_option("--materials", arguments.styleFiles.materials,
+                      "Material file: colours of parts, opening symbols and dimensions");
   AddSceneOptions(*command, arguments);
   command->callback([&arguments] {
     std::optional<OpeningSize> opening;
@@ -124,8 +130,30 @@ void AddDraw(CLI::App& app, Arguments& arguments) {
     }
     lintavo::drawing::PictureFormat format{};
     lintavo::drawing::FormatFromPath(arguments.target, format);
-    DrawCommand(arguments.file, opening, ToSceneOptions(arguments), arguments.target, format);
+    DrawCommand(arguments.file, opening, arguments.styleFiles, ToSceneOptions(arguments),
+                arguments.target, format);
   });
+}
+
+void AddPosition(CLI::App& app, Arguments& arguments) {
+  CLI::App* command = app.add_subcommand("position", "Make the window of a parameter file");
+  command->add_option("file", arguments.file, "Parameter file")->required();
+  command
+      ->add_option("--base", arguments.base,
+                   "Folder with the types in Fenster and the patterns in Sprossen")
+      ->required();
+  command->add_option("-o,--output", arguments.target, "Macro file (aqz) to write")
+      ->check(CheckTarget);
+  command->callback([&arguments] {
+    PositionCommand(arguments.file, arguments.base, arguments.target, std::cout);
+  });
+}
+
+void AddForm(CLI::App& app, Arguments& arguments) {
+  CLI::App* command = app.add_subcommand("form", "Write the window's blank parameter form");
+  command->add_option("file", arguments.file, "Macro file (aqz, cqz or a type's ini)")->required();
+  command->add_option("-o,--output", arguments.target, "Parameter file to write")->required();
+  command->callback([&arguments] { FormCommand(arguments.file, arguments.target); });
 }
 
 int Run(int argc, char** argv) {
@@ -137,6 +165,8 @@ int Run(int argc, char** argv) {
   AddShow(app, arguments);
   AddFit(app, arguments);
   AddDraw(app, arguments);
+  AddPosition(app, arguments);
+  AddForm(app, arguments);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

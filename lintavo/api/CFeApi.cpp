@@ -107,6 +107,14 @@ int CFeApi::WriteToFile(const char* path) {
   return Geschuetzt(0, [&] { return pFenster_->SaveToFile(PathOf(path)) ? 1 : 0; });
 }
 
+int CFeApi::WriteParameterFormular(const char* path, const char* typ) {
+  if (!pFenster_) return 0;
+  return Geschuetzt(0, [&] {
+    pFenster_->SetTypName(typ ? CString(typ) : CString());
+    return pFenster_->SaveParameterFormular(PathOf(path)) ? 1 : 0;
+  });
+}
+
 void CFeApi::WriteToBuffer(long* length, char** buffer) const {
   if (!pFenster_ || !length || !buffer) return;
   Geschuetzt([&] {

@@ -88,6 +88,10 @@ class LINTAVO_API CFeApi {
   /// pointer is left alone.
   void FreeBuffer(char** buffer) const;
 
+  /// Names the window's type and writes its blank parameter form, see
+  /// `CMFenster::SaveParameterFormular`. A null type name counts as empty.
+  int WriteParameterFormular(const char* path, const char* typ);
+
   // --- files, without a window --------------------------------------------
 
   /// 1 when the path ends in "cqz" in any case (a dot is not asked for).
@@ -123,6 +127,9 @@ class LINTAVO_API CFeApi {
   /// What a component is: 0 frame part, mullion or transom, 1 glazing bar, 2 inner
   /// extra part, 3 outer extra part; -1 for a bad kind or index.
   long GetRahmenBauteilTyp(long lArt, long i) const;
+  /// Display attribute a1 to a4 (`n` 1 to 4) of a frame component: from inside
+  /// a1 is its colour, from outside a2. 0 for any bad index.
+  long GetRahmenBauteilAttribut(long lArt, long i, long n) const;
   /// Outline of segment `lSegment` of a frame component, the length of the
   /// segment's axis and its two cut angles in degrees. Segment -1: the joined
   /// outline of all segments, the total length and the outer angles. The record
@@ -149,6 +156,8 @@ class LINTAVO_API CFeApi {
   long GetFluegelAnzahlBauteilSegmente(long lArt, long iFluegel, long i) const;
   double GetFluegelBauteilDicke(long lArt, long iFluegel, long i) const;
   long GetFluegelBauteilTyp(long lArt, long iFluegel, long i) const;
+  /// As `GetRahmenBauteilAttribut`, for component `i` of sash `iFluegel`.
+  long GetFluegelBauteilAttribut(long lArt, long iFluegel, long i, long n) const;
   /// As `GetRahmenBauteilUmriss`, for component `i` of sash `iFluegel`.
   int GetFluegelBauteilUmriss(long lArt, long iFluegel, long i, long lSegment,
                               CFeApiPolygon& umriss, double& dLaenge, double& dWinkelAnfang,
@@ -158,6 +167,8 @@ class LINTAVO_API CFeApi {
   int GetFluegelInnenPolygon(long i, double d, CFeApiPolygon& polygon) const;
   eFeApiFuellArten GetFluegelFuellungArt(long i) const;
   double GetFluegelFuellungDicke(long i) const;
+  /// The same of the filling of sash `i`, slats included.
+  long GetFluegelFuellungAttribut(long i, long n) const;
   long GetAnzahlBeschlaege(long i) const;  ///< fittings of sash `i`; -1 for a bad index
   long GetAnzahlSprossen(long i) const;    ///< glazing bars of sash `i`; -1 for a bad index
   double GetSprossenBreite(long i, long j) const;

@@ -87,6 +87,12 @@ int UmrissVon(const CMBauteil* bauteil, long lSegment, CFeApiPolygon& umriss, do
   return 1;
 }
 
+// Attribute a1 to a4 of a component, 0 without one.
+long AttributVon(const CMBauteil* bauteil, long n) {
+  if (!bauteil || n < 1 || n > 4) return 0;
+  return bauteil->lAttribut[n - 1];
+}
+
 const CMBauteil* ErstesRahmenteil(const CMFensterSatz* satz) {
   return BauteilDerArt(satz, kArtRahmenteil, 0, false);
 }
@@ -164,6 +170,10 @@ double CFeApi::GetRahmenBauteilDicke(long lArt, long i) const {
 long CFeApi::GetRahmenBauteilTyp(long lArt, long i) const {
   const CMBauteil* bauteil = BauteilDerArt(Rahmen(), lArt, i, false);
   return bauteil ? bauteil->lTyp : -1;
+}
+
+long CFeApi::GetRahmenBauteilAttribut(long lArt, long i, long n) const {
+  return AttributVon(BauteilDerArt(Rahmen(), lArt, i, false), n);
 }
 
 int CFeApi::GetRahmenBauteilUmriss(long lArt, long i, long lSegment, CFeApiPolygon& umriss,
@@ -259,6 +269,10 @@ long CFeApi::GetFluegelBauteilTyp(long lArt, long iFluegel, long i) const {
   return bauteil ? bauteil->lTyp : -1;
 }
 
+long CFeApi::GetFluegelBauteilAttribut(long lArt, long iFluegel, long i, long n) const {
+  return AttributVon(BauteilDerArt(Fluegel(iFluegel), lArt, i, true), n);
+}
+
 int CFeApi::GetFluegelBauteilUmriss(long lArt, long iFluegel, long i, long lSegment,
                                     CFeApiPolygon& umriss, double& dLaenge, double& dWinkelAnfang,
                                     double& dWinkelEnde) const {
@@ -292,6 +306,14 @@ eFeApiFuellArten CFeApi::GetFluegelFuellungArt(long i) const {
 double CFeApi::GetFluegelFuellungDicke(long i) const {
   const CMFensterSatz* fluegel = Fluegel(i);
   return fluegel ? fluegel->Fuellung.D3 : 0.0;
+}
+
+long CFeApi::GetFluegelFuellungAttribut(long i, long n) const {
+  const CMFensterSatz* fluegel = Fluegel(i);
+  if (!fluegel || n < 1 || n > 4) return 0;
+  const CMFuellung& fuellung = fluegel->Fuellung;
+  const int attribute[] = {fuellung.I1, fuellung.I2, fuellung.I3, fuellung.I4};
+  return attribute[n - 1];
 }
 
 long CFeApi::GetAnzahlBeschlaege(long i) const {

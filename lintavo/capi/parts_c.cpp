@@ -42,6 +42,11 @@ long lintavo_window_get_rahmen_bauteil_typ(const lintavo_window* window, long ar
   return window ? window->api.GetRahmenBauteilTyp(art, i) : -1;
 }
 
+long lintavo_window_get_rahmen_bauteil_attribut(const lintavo_window* window, long art, long i,
+                                                long n) {
+  return window ? window->api.GetRahmenBauteilAttribut(art, i, n) : 0;
+}
+
 int lintavo_window_get_rahmen_bauteil_umriss(const lintavo_window* window, long art, long i,
                                              long segment, lintavo_polygon* outline, double* length,
                                              double* start_angle, double* end_angle) {
@@ -113,6 +118,15 @@ double lintavo_window_get_fluegel_bauteil_dicke(const lintavo_window* window, lo
 long lintavo_window_get_fluegel_bauteil_typ(const lintavo_window* window, long art, long fluegel,
                                             long i) {
   return window ? window->api.GetFluegelBauteilTyp(art, fluegel, i) : -1;
+}
+
+long lintavo_window_get_fluegel_bauteil_attribut(const lintavo_window* window, long art,
+                                                 long fluegel, long i, long n) {
+  return window ? window->api.GetFluegelBauteilAttribut(art, fluegel, i, n) : 0;
+}
+
+long lintavo_window_get_fluegel_fuellung_attribut(const lintavo_window* window, long i, long n) {
+  return window ? window->api.GetFluegelFuellungAttribut(i, n) : 0;
 }
 
 int lintavo_window_get_fluegel_bauteil_umriss(const lintavo_window* window, long art, long fluegel,

@@ -49,6 +49,9 @@ LINTAVO_API double lintavo_window_get_rahmen_bauteil_dicke(const lintavo_window*
  * extra part, 3 outer extra part; -1 for a bad kind or index. */
 LINTAVO_API long lintavo_window_get_rahmen_bauteil_typ(const lintavo_window* window, long art,
                                                        long i);
+/** Display attribute a1 to a4 (`n` 1 to 4) of a frame component; 0 for any bad index. */
+LINTAVO_API long lintavo_window_get_rahmen_bauteil_attribut(const lintavo_window* window, long art,
+                                                            long i, long n);
 /** Outline of a segment of frame component `i`, the length of the segment's axis
  * and its two cut angles in degrees. Segment LINTAVO_ALLE_SEGMENTE: the joined
  * outline, the total length and the outer angles. */
@@ -92,6 +95,12 @@ LINTAVO_API double lintavo_window_get_fluegel_bauteil_dicke(const lintavo_window
 /** As lintavo_window_get_rahmen_bauteil_typ, for component `i` of sash `fluegel`. */
 LINTAVO_API long lintavo_window_get_fluegel_bauteil_typ(const lintavo_window* window, long art,
                                                         long fluegel, long i);
+/** As lintavo_window_get_rahmen_bauteil_attribut, for component `i` of sash `fluegel`. */
+LINTAVO_API long lintavo_window_get_fluegel_bauteil_attribut(const lintavo_window* window, long art,
+                                                             long fluegel, long i, long n);
+/** The same of the filling of sash `i`. */
+LINTAVO_API long lintavo_window_get_fluegel_fuellung_attribut(const lintavo_window* window, long i,
+                                                              long n);
 /** As lintavo_window_get_rahmen_bauteil_umriss, for component `i` of sash
  * `fluegel`. */
 LINTAVO_API int lintavo_window_get_fluegel_bauteil_umriss(const lintavo_window* window, long art,

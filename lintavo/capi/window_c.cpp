@@ -84,6 +84,11 @@ int lintavo_window_write_to_file(lintavo_window* window, const char* path) {
   return window && path ? window->api.WriteToFile(path) : 0;
 }
 
+int lintavo_window_write_parameter_formular(lintavo_window* window, const char* path,
+                                            const char* type) {
+  return window && path ? window->api.WriteParameterFormular(path, type) : 0;
+}
+
 int lintavo_window_write_to_buffer(const lintavo_window* window, lintavo_bytes* bytes) {
   if (!window || !bytes) return 0;
   long length = 0;

@@ -57,6 +57,10 @@ LINTAVO_API int lintavo_window_read_from_buffer(lintavo_window* window, const ch
                                                 long length, int separator);
 /** Writes a plain macro file. 0 when it cannot be written in full. */
 LINTAVO_API int lintavo_window_write_to_file(lintavo_window* window, const char* path);
+/** Names the window's type (null counts as empty) and writes its blank parameter
+ * form. 0 when it cannot be written. */
+LINTAVO_API int lintavo_window_write_parameter_formular(lintavo_window* window, const char* path,
+                                                        const char* type);
 /** Replaces the block's content by the macro file's lines, each followed by
  * '#'. 0 when there is no memory, the content is then left as it was. */
 LINTAVO_API int lintavo_window_write_to_buffer(const lintavo_window* window, lintavo_bytes* bytes);

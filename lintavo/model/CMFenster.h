@@ -145,6 +145,11 @@ class LINTAVO_API CMFenster {
   /// the path is empty or a file cannot be written.
   bool SaveToFile(const CString& path);
   bool SaveToFile(bool withParameterForm, const CString& path);
+  /// Writes the blank parameter form to exactly this path: an INI file with the
+  /// window's type name as "Typ" and its values in tenths, to be filled in and
+  /// read by `CMFensterPosition`. Lists the frame parts of the last calculation.
+  /// False when the path is empty or the file cannot be written.
+  bool SaveParameterFormular(const CString& path) const;
   /// Drops axes outside the range that the sashes use and brings the first used
   /// one of each direction to 0.
   void AchsRasterOptimieren();

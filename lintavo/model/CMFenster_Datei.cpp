@@ -224,9 +224,14 @@ bool CMFenster::SaveToFile(bool withParameterForm, const CString& path) {
   if (!document.Write(path)) return false;
   const CString formPath = FormularPfad(path);
   if (!withParameterForm || formPath.IsEmpty()) return true;
+  return SaveParameterFormular(formPath);
+}
+
+bool CMFenster::SaveParameterFormular(const CString& path) const {
+  if (path.IsEmpty()) return false;
   CIniFile form;
   SaveParameterBlankoFormularToBuffer(form);
-  return form.Write(formPath) != 0;
+  return form.Write(path) != 0;
 }
 
 bool CMFenster::SaveParameterBlankoFormularToBuffer(CIniFile& document) const {

@@ -6,6 +6,7 @@
 
 #include "lintavo/drawing/Export.h"
 #include "lintavo/drawing/Scene.h"
+#include "lintavo/drawing/Style.h"
 
 namespace lintavo::drawing {
 
@@ -33,13 +34,14 @@ LINTAVO_DRAWING_API bool FormatFromPath(std::string_view path, PictureFormat& fo
 /// proportions and never falls below the margins, so the size of a picture is
 /// bounded whatever the scene holds. PNG has a white ground, the others none.
 /// Texts are drawn as lines: no font is needed, pictures are the same everywhere.
+/// Of the style's sizes only the smallest text counts here, the others are the scene's.
 /// `bytes` receives the file's content on `kOk` and is left alone otherwise.
 LINTAVO_DRAWING_API PictureStatus RenderPicture(const Scene& scene, PictureFormat format,
-                                                std::string& bytes);
+                                                std::string& bytes, const Style& style = {});
 
 /// Renders the picture and writes it to `path`, replacing a file of that name.
 /// Nothing is opened when rendering fails.
 LINTAVO_DRAWING_API PictureStatus WritePicture(const Scene& scene, PictureFormat format,
-                                               const std::string& path);
+                                               const std::string& path, const Style& style = {});
 
 }  // namespace lintavo::drawing

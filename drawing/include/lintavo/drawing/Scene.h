@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "lintavo/drawing/Export.h"
+#include "lintavo/drawing/Style.h"
 
 class CFeApi;
 
@@ -41,6 +42,7 @@ struct Shape {
   long bauteil = -1;  ///< index of the component within its kind, of a dimension for
                       ///< an arrowhead, -1 for a filling
   std::vector<Point> outline;
+  long attribut = 0;  ///< number of its colour; of a part the one for the view's side
 };
 
 /// What a line shows.
@@ -60,6 +62,7 @@ struct Line {
   Point from;
   Point to;
   bool dashed = false;
+  long attribut = 0;  ///< number of its colour, as `Style` tells; 0 for the usual one
 };
 
 /// The length that is written at a dimension line.
@@ -69,6 +72,7 @@ struct Text {
   double hoehe = 0.0;    ///< height of a digit
   bool upright = false;  ///< turned by 90°, so that it reads from bottom to top
   std::string inhalt;    ///< ASCII
+  long attribut = 0;     ///< number of its colour
 };
 
 /// All that a picture shows. The shapes stand in the order in which they are
@@ -98,6 +102,7 @@ struct SceneOptions {
   bool dimensions = true;   ///< dimension lines with their texts
   bool symbols = true;      ///< opening symbols
   bool hiddenLine = false;  ///< visible edges instead of filled shapes
+  MeasureSizes sizes;       ///< how large dimensions are drawn
 };
 
 /// The scene of a calculated window.
