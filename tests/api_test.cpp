@@ -277,7 +277,8 @@ TEST(Fassade, AttributesComeInTheOrderOfTheirNumbers) {
   // The file gives them as a3, a1, a4, a2; the filling as a1 to a4.
   const std::string macro =
       "[Achsen]#Y1=120#X1=80#[Rahmen]#Rahmendicke=6.8#RahmenDefaults=7,0,11,12,13,14,6.8#"
-      "[Fluegel1]#Typ=0,0#Knoten1=0,0#Knoten2=1,1#Rahmendicke=6.8#"
+      "Knoten1=0,0#Knoten2=1,1#"
+      "[Fluegel1]#Typ=1,0#Knoten1=0,0#Knoten2=1,1#Rahmendicke=6.8#"
       "RahmenDefaults=7.8,1.5,21,22,23,24,6.8#"
       "Fuellung=0,0,0,2.4,0,0,0,0.5,31,32,33,34#";
   CFeApi api;
