@@ -6,6 +6,12 @@ include(CMakePackageConfigHelpers)
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/lintavo)
 set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
+# What a C++ compiler links by itself and a C compiler does not; a C host of a
+# static library names it.
+set(LINTAVO_RUNTIME_LIBS ${CMAKE_CXX_IMPLICIT_LINK_LIBRARIES})
+list(FILTER LINTAVO_RUNTIME_LIBS INCLUDE REGEX "^(stdc\\+\\+|c\\+\\+|c\\+\\+abi|m)$")
+list(REMOVE_DUPLICATES LINTAVO_RUNTIME_LIBS)
+
 configure_package_config_file(cmake/lintavoConfig.cmake.in
   ${PROJECT_BINARY_DIR}/lintavoConfig.cmake
   INSTALL_DESTINATION ${package_dir})
@@ -30,11 +36,8 @@ if(NOT BUILD_SHARED_LIBS)
     string(APPEND LINTAVO_DRAWING_PC_REQUIRES " cairo cairo-svg cairo-pdf cairo-png")
   endif()
   set(LINTAVO_PC_CFLAGS " -DLINTAVO_STATIC")
-  # What a C++ compiler links by itself and a C compiler does not.
-  foreach(lib ${CMAKE_CXX_IMPLICIT_LINK_LIBRARIES})
-    if(lib MATCHES "^(stdc\\+\\+|c\\+\\+|c\\+\\+abi|m)$")
-      string(APPEND LINTAVO_PC_LIBS " -l${lib}")
-    endif()
+  foreach(lib ${LINTAVO_RUNTIME_LIBS})
+    string(APPEND LINTAVO_PC_LIBS " -l${lib}")
   endforeach()
 endif()
 
