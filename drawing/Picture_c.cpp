@@ -36,8 +36,10 @@ bool IsOptions(int options) {
 
 SceneOptions ToOptions(int options) {
   return {(options & LINTAVO_VON_AUSSEN) ? ViewSide::kOutside : ViewSide::kInside,
-          (options & LINTAVO_OHNE_MASZE) == 0, (options & LINTAVO_OHNE_SYMBOLE) == 0,
-          (options & LINTAVO_NUR_SICHTBARE) != 0, {}};
+          (options & LINTAVO_OHNE_MASZE) == 0,
+          (options & LINTAVO_OHNE_SYMBOLE) == 0,
+          (options & LINTAVO_NUR_SICHTBARE) != 0,
+          {}};
 }
 
 // The result of `operation`, or a failure when it throws, as it does when it
