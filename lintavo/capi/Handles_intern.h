@@ -68,7 +68,7 @@ Handle* Create(const Arguments&... arguments) {
 inline std::size_t HandOut(std::string_view text, char* buffer, std::size_t size) {
   if (buffer == nullptr || size == 0) return text.size();
   const std::size_t count = std::min(text.size(), size - 1);
-  std::memcpy(buffer, text.data(), count);
+  text.copy(buffer, count);
   buffer[count] = '\0';
   return text.size();
 }
