@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "lintavo/drawing/Export.h"
+#include "lintavo/drawing/Ids.h"
 #include "lintavo/drawing/Style.h"
 
 class CFeApi;
@@ -20,21 +21,6 @@ struct Point {
   double y = 0.0;
 };
 
-/// What a shape is a part of.
-enum class ShapeKind {
-  kRahmenteil,         ///< part of the window's frame
-  kEinzelteil,         ///< mullion or transom
-  kZusatzteil,         ///< extra part around the frame: sill, trim, roller-shutter box
-  kGlas,               ///< a sash's filling: glass
-  kPaneel,             ///< a sash's filling: a panel of constant thickness
-  kLamellen,           ///< a sash's filling: what is seen between its slats
-  kLamelle,            ///< one slat
-  kFluegelteil,        ///< part of a sash's frame
-  kFluegelEinzelteil,  ///< single or extra part of a sash
-  kSprosse,            ///< glazing bar
-  kMaszPfeil           ///< arrowhead of a dimension
-};
-
 /// One closed outline; its last point is not a repetition of the first.
 struct Shape {
   ShapeKind kind = ShapeKind::kRahmenteil;
@@ -43,15 +29,6 @@ struct Shape {
                       ///< an arrowhead, -1 for a filling
   std::vector<Point> outline;
   long attribut = 0;  ///< number of its colour; of a part the one for the view's side
-};
-
-/// What a line shows.
-enum class LineKind {
-  kAnsicht,          ///< visible edge of the view with hidden lines removed
-  kOeffnungsSymbol,  ///< line of a sash's opening symbol
-  kBeschlag,         ///< line of a fitting
-  kMaszLinie,        ///< line of a dimension
-  kHilfsLinie        ///< extension line of a dimension
 };
 
 /// One straight line.
