@@ -1,0 +1,18 @@
+// Checks of words on the command line, in the form that its parser takes: the empty
+// text for a good word, else what is wrong with it.
+#pragma once
+
+#include <string>
+
+namespace lintavo::tools {
+
+/// A length greater than zero.
+std::string CheckLength(const std::string& text);
+
+/// "WIDTHxHEIGHT".
+std::string CheckSize(const std::string& text);
+
+/// A name under which a plain macro file can be written.
+std::string CheckMacroTarget(const std::string& path);
+
+}  // namespace lintavo::tools
