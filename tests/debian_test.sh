@@ -1,6 +1,6 @@
 #!/bin/bash
-# Makes the pair of Debian packages from this build, unpacks both into an empty
-# folder and looks at what they hold and ask for.
+# Makes the pair of Debian packages from this build, looks at what they hold and
+# ask for, and has dpkg install and remove them in a system tree of their own.
 #
 # debian_test.sh BUILD_DIR CPACK WINDOW
 set -euo pipefail
@@ -42,4 +42,19 @@ if (cd "$scratch" && find runtime -type f | sed 's/^runtime//' | sort) |
   fail "these files are in both packages"
 fi
 "$scratch/runtime/usr/bin/lintavo" show "$3" >/dev/null || fail "the packed command fails"
+
+# Their dependencies are this machine's, so the tree of their own has none of them.
+in_own_tree() {
+  dpkg --root="$scratch/system" --force-depends --force-script-chrootless "$@" \
+    >"$scratch/log" 2>&1 || { cat "$scratch/log"; fail "dpkg $1 fails"; }
+}
+if [ "$(id -u)" -eq 0 ]; then
+  mkdir -p "$scratch"/system/var/lib/dpkg/{updates,info,triggers}
+  touch "$scratch/system/var/lib/dpkg/status"
+  in_own_tree --install "$runtime" "$development"
+  "$scratch/system/usr/bin/lintavo" show "$3" >/dev/null || fail "the installed command fails"
+  [ -e "$scratch/system/usr/lib/liblintavo.so" ] || fail "liblintavo.so is not installed"
+  in_own_tree --purge lintavo-dev lintavo
+  if find "$scratch/system" -path "*/usr/*" -type f | grep .; then fail "purging left these files"; fi
+fi
 echo "debian_test: in order"
