@@ -7,6 +7,11 @@
 
 namespace lintavo::tools {
 
+std::string CheckNumber(const std::string& text) {
+  double number = 0.0;
+  return ParseNumber(text, number) ? "" : "'" + text + "' is no number";
+}
+
 std::string CheckLength(const std::string& text) {
   double length = 0.0;
   return ParseLength(text, length) ? "" : "'" + text + "' is no length greater than zero";

@@ -6,6 +6,9 @@
 
 namespace lintavo::tools {
 
+/// A finite number, with "." where it has decimals.
+std::string CheckNumber(const std::string& text);
+
 /// A length greater than zero.
 std::string CheckLength(const std::string& text);
 

@@ -7,12 +7,19 @@
 
 namespace lintavo::tools {
 
-bool ParseLength(std::string_view text, double& length) {
+bool ParseNumber(std::string_view text, double& number) {
   double value = 0.0;
   const char* const end = text.data() + text.size();
   const auto result = std::from_chars(text.data(), end, value);
   if (result.ec != std::errc() || result.ptr != end) return false;
-  if (!std::isfinite(value) || value <= 0.0) return false;
+  if (!std::isfinite(value)) return false;
+  number = value;
+  return true;
+}
+
+bool ParseLength(std::string_view text, double& length) {
+  double value = 0.0;
+  if (!ParseNumber(text, value) || value <= 0.0) return false;
   length = value;
   return true;
 }

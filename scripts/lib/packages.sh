@@ -8,7 +8,7 @@
 # Compilers and tools count as present when their command is, wherever it came
 # from; libraries only as packages.
 BUILD_PACKAGES=(g++ cmake ninja-build pkgconf zlib1g-dev libpolyclipping-dev libcairo2-dev
-  libcli11-dev libgtest-dev libexpat1-dev locales python3)
+  libcli11-dev nlohmann-json3-dev libgtest-dev libexpat1-dev locales python3)
 CHECK_PACKAGES=(clang-format valgrind)
 WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev googletest)
 WINE_PACKAGES=(wine64)

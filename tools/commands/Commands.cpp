@@ -10,6 +10,7 @@ std::span<const AddCommand> AllCommands() {
       AddDraw,      //
       AddPosition,  //
       AddForm,      //
+      AddParts,     //
   };
   return kCommands;
 }

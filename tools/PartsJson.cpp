@@ -1,0 +1,94 @@
+// A cutting list as JSON.
+#include "PartsJson.h"
+
+#include "JsonText.h"
+
+namespace lintavo::tools {
+namespace {
+
+constexpr const char* kSchema = "lintavo-parts/1";
+
+Json Begun(TeilArt art, const std::vector<Stelle>& stellen, const PartsStyle& style) {
+  Json row;
+  row["kind"] = ArtSchluessel(art);
+  row["label"] = ArtWort(art).In(style.sprache);
+  row["count"] = stellen.size();
+  return row;
+}
+
+Json Places(const std::vector<Stelle>& stellen) {
+  Json places = Json::array();
+  for (const Stelle& stelle : stellen) {
+    Json place;
+    place["window"] = stelle.fenster;
+    place["sash"] = stelle.fluegel < 0 ? Json(nullptr) : Json(stelle.fluegel);
+    place["id"] = stelle.id;
+    places.push_back(std::move(place));
+  }
+  return places;
+}
+
+Json RowOf(const Stab& stab, const PartsStyle& style) {
+  Json row = Begun(stab.art, stab.stellen, style);
+  row["length"] = JsonNumber(stab.laenge);
+  row["axisLength"] = JsonNumber(stab.achslaenge);
+  row["width"] = JsonNumber(stab.breite);
+  row["thickness"] = JsonNumber(stab.dicke);
+  row["startAngle"] = JsonNumber(stab.winkelAnfang);
+  row["endAngle"] = JsonNumber(stab.winkelEnde);
+  row["radius"] = stab.radius > 0.0 ? JsonNumber(stab.radius) : Json(nullptr);
+  row["segments"] = stab.segmente;
+  row["places"] = Places(stab.stellen);
+  return row;
+}
+
+Json RowOf(const Scheibe& scheibe, const PartsStyle& style) {
+  Json row = Begun(scheibe.art, scheibe.stellen, style);
+  row["width"] = JsonNumber(scheibe.breite);
+  row["height"] = JsonNumber(scheibe.hoehe);
+  row["thickness"] = JsonNumber(scheibe.dicke);
+  row["area"] = JsonNumber(scheibe.flaeche);
+  row["rectangular"] = scheibe.rechteckig;
+  row["outline"] = Json::array();
+  for (const XY& p : scheibe.umriss) row["outline"].push_back(JsonPoint(p.x, p.y));
+  row["places"] = Places(scheibe.stellen);
+  return row;
+}
+
+Json RowOf(const Beschlaege& beschlaege, const PartsStyle& style) {
+  Json row = Begun(beschlaege.art, beschlaege.stellen, style);
+  row["places"] = Places(beschlaege.stellen);
+  return row;
+}
+
+template <class Zeile>
+Json RowsOf(const std::vector<Zeile>& zeilen, const PartsStyle& style) {
+  Json rows = Json::array();
+  for (const Zeile& zeile : zeilen) rows.push_back(RowOf(zeile, style));
+  return rows;
+}
+
+}  // namespace
+
+void WritePartsJson(const PartsList& list, const std::vector<PartsWindow>& windows,
+                    const PartsStyle& style, std::ostream& out) {
+  Json document;
+  document["schema"] = kSchema;
+  document["windows"] = Json::array();
+  for (const PartsWindow& window : windows) {
+    Json described;
+    described["file"] = window.datei;
+    described["name"] = window.name;
+    described["width"] = JsonNumber(window.breite);
+    described["height"] = JsonNumber(window.hoehe);
+    described["sashes"] = window.fluegel;
+    document["windows"].push_back(std::move(described));
+  }
+  document["bars"] = RowsOf(list.staebe, style);
+  document["panes"] = RowsOf(list.scheiben, style);
+  document["fittings"] = RowsOf(list.beschlaege, style);
+  WriteJson(document, 0, out);
+  out << '\n';
+}
+
+}  // namespace lintavo::tools

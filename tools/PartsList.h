@@ -1,0 +1,153 @@
+// The cutting list: every bar, pane and fitting of calculated windows, equal ones
+// counted together. Knows nothing of languages and formats.
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "lintavo/api/CFeApi.h"
+#include "lintavo/geom/GEOM2_Polygon.h"
+#include "lintavo/geom/XY.h"
+#include "lintavo/model/CMBauteil.h"
+#include "lintavo/sash/CMFensterSatz.h"
+
+namespace lintavo::tools {
+
+/// Lengths, in drawing units, that differ by no more than this are one length at the saw.
+inline constexpr double kGleichesMasz = 0.001;
+/// The same for cut angles, in degrees.
+inline constexpr double kGleicherSchnitt = 0.01;
+
+/// What a piece is; lists are in this order.
+enum class TeilArt {
+  kRahmen,
+  kFluegelrahmen,
+  kPfosten,  ///< rather upright than level
+  kRiegel,
+  kZusatzInnen,
+  kZusatzAussen,
+  kSprosse,
+  kLamelle,
+  kGlas,
+  kPaneel,
+  kGriff,
+  kBand,
+  kBeschlag  ///< fitting that is neither handle nor hinge
+};
+
+/// Where a piece goes.
+struct Stelle {
+  std::size_t fenster = 0;  ///< index of the window, in the order of adding
+  long fluegel = -1;        ///< index of the sash, -1 for the window's frame
+  std::string id{};         ///< as in pictures, see `lintavo/drawing/Ids.h`
+};
+
+/// Bars that the saw cuts alike.
+struct Stab {
+  TeilArt art = TeilArt::kRahmen;
+  /// Of the blank: the extent along the axis, whichever edge is the longer one. Of a bent
+  /// part developed along its longer edge, as an arc where it has a radius.
+  double laenge = 0.0;
+  double achslaenge = 0.0;  ///< as the façade answers it
+  double breite = 0.0;      ///< of the blank, across the axis in the window's plane
+  double dicke = 0.0;
+  /// Lean of the cuts from square in degrees, positive when the left end of the cut, seen
+  /// along the axis, lies further along it.
+  double winkelAnfang = 0.0;
+  double winkelEnde = 0.0;
+  /// The section lies centred on its axis: turned by half a turn it is the same bar.
+  bool mittig = false;
+  double radius = 0.0;  ///< of the axis of a circular part; 0 where there is none
+  long segmente = 1;
+  /// Of a bent part the length of each segment, then its turn to the next in degrees.
+  std::vector<double> verlauf{};
+  std::vector<Stelle> stellen{};  ///< one for each piece
+};
+
+/// Panes or panels of one size.
+struct Scheibe {
+  TeilArt art = TeilArt::kGlas;
+  double breite = 0.0;  ///< of the box around it
+  double hoehe = 0.0;
+  double dicke = 0.0;
+  double flaeche = 0.0;  ///< its own, not the box's
+  bool rechteckig = true;
+  std::vector<XY> umriss{};  ///< from the lower left corner of the box
+  std::vector<Stelle> stellen{};
+};
+
+/// Fittings of one kind.
+struct Beschlaege {
+  TeilArt art = TeilArt::kBeschlag;
+  std::vector<Stelle> stellen{};
+};
+
+struct PartsList {
+  std::vector<Stab> staebe{};
+  std::vector<Scheibe> scheiben{};
+  std::vector<Beschlaege> beschlaege{};
+};
+
+struct PartsOptions {
+  double falz = 0.0;       ///< how far panes reach into the rebate of their frame, on every side
+  bool jeFenster = false;  ///< nothing is added up over several windows
+};
+
+/// Measures a component that is there; places are left empty.
+Stab MesseStab(TeilArt art, const CMBauteil& bauteil);
+
+/// Measures the outline of a pane; places are left empty.
+Scheibe MesseScheibe(TeilArt art, double dicke, const CFeApiPolygon& umriss);
+
+/// Whether one cut fits both. A mirror image is another piece, since sections have an
+/// inside and an outside; a piece turned by half a turn is the same one where its section
+/// lies centred on its axis.
+bool SchneidetGleich(const Stab& a, const Stab& b);
+
+/// The same of panes, which are neither turned nor mirrored.
+bool SchneidetGleich(const Scheibe& a, const Scheibe& b);
+
+/// Multiplies all lengths by `faktor` and areas by its square.
+void Skaliere(double faktor, PartsList& list);
+
+/// Collects the pieces of windows, each as often as it is added.
+///
+/// Every component that the façade counts is one bar, every slat too; a sash that is not
+/// filled with slats and has an inner outline has one pane or panel.
+class PartsCollector {
+ public:
+  explicit PartsCollector(const PartsOptions& options) : options_(options) {}
+
+  /// Adds a calculated window.
+  void Add(const CFeApi& window);
+
+  /// The list so far as the saw takes it: by kind (by window before that where windows are
+  /// kept apart), wide and thick sections first, of these the longest first.
+  PartsList Sorted() const;
+
+ private:
+  // Windows kept apart or 0, kind, and the length in steps of the tolerance.
+  using Schluessel = std::tuple<std::size_t, TeilArt, double>;
+  using Fundstellen = std::map<Schluessel, std::vector<std::size_t>>;
+
+  template <class Zeile>
+  void Einreihen(Zeile zeile, double masz, Stelle stelle, Fundstellen& fundstellen,
+                 std::vector<Zeile>& zeilen);
+  void AddStab(TeilArt art, const CMBauteil& bauteil, long fluegel, std::string id);
+  void AddRahmen(const CMFensterSatz& rahmen);
+  void AddFluegel(const CFeApi& window, const CMFensterSatz& satz, long fluegel);
+  void AddLamellen(const CMFensterSatz& satz, long fluegel);
+  void AddScheibe(const CFeApi& window, long fluegel);
+  void AddBeschlaege(const CMFensterSatz& satz, long fluegel);
+
+  PartsOptions options_;
+  std::size_t fenster_ = 0;
+  PartsList list_;
+  Fundstellen staebe_;
+  Fundstellen scheiben_;
+};
+
+}  // namespace lintavo::tools

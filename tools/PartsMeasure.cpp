@@ -1,0 +1,220 @@
+// Measures bars and panes for the saw, and tells which of them are alike.
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+#include "lintavo/geom/Toleranzen.h"
+
+#include "PartsList.h"
+
+namespace lintavo::tools {
+namespace {
+
+// Fewer corners than this lie on some circle by chance.
+constexpr std::size_t kMinKreisecken = 4;
+
+bool Nahe(double a, double b, double toleranz) {
+  return std::fabs(a - b) <= toleranz;
+}
+
+double Abstand(const XY& a, const XY& b) {
+  return std::hypot(b.x - a.x, b.y - a.y);
+}
+
+bool IsMittig(TeilArt art, const CMBauteil& bauteil) {
+  if (bauteil.lLage == eLageRechts || bauteil.lLage == eLageLinks) return false;
+  return art == TeilArt::kPfosten || art == TeilArt::kRiegel || art == TeilArt::kSprosse ||
+         art == TeilArt::kLamelle;
+}
+
+// One straight segment, seen along its axis: the lengths of its two long edges, and how
+// far its outline reaches along and across the axis.
+struct Segmentmasze {
+  double rechts = 0.0;
+  double links = 0.0;
+  double laengs = 0.0;
+  double quer = 0.0;
+};
+
+Segmentmasze MesseSegment(const CMBauteil& bauteil, long i) {
+  GEOM2_Polygon umriss;
+  bauteil.GetUmrissPunkteAchsSegment(i, umriss);
+  const double winkel = bauteil.Achse(i).dWinkel * kRadiantJeGrad;
+  // Right start, right end, left end, left start.
+  umriss.Transformieren(std::cos(winkel), -std::sin(winkel), 0.0, 0.0);
+  const auto x = [&](int ecke) { return umriss.GetEckpunkt(ecke).x; };
+  XY min;
+  XY max;
+  umriss.GetMinMax(min, max);
+  return {x(1) - x(0), x(2) - x(3), max.x - min.x, max.y - min.y};
+}
+
+std::vector<XY> Achsecken(const CMBauteil& bauteil) {
+  std::vector<XY> ecken;
+  XY a;
+  XY b;
+  for (long i = 0; bauteil.GetAchspunkte(i, a, b); ++i) ecken.push_back(a);
+  ecken.push_back(b);
+  return ecken;
+}
+
+// The centre of the circle through three points; false where they lie on a line.
+bool Kreismitte(const XY& a, const XY& b, const XY& c, XY& mitte) {
+  const XY ab{b.x - a.x, b.y - a.y};
+  const XY ac{c.x - a.x, c.y - a.y};
+  const double kreuz = 2.0 * (ab.x * ac.y - ab.y * ac.x);
+  if (std::fabs(kreuz) < kNullFlaeche) return false;
+  const double qb = ab.x * ab.x + ab.y * ab.y;
+  const double qc = ac.x * ac.x + ac.y * ac.y;
+  mitte = {a.x + (ac.y * qb - ab.y * qc) / kreuz, a.y + (ab.x * qc - ac.x * qb) / kreuz};
+  return true;
+}
+
+// The radius of the circle on which an arch's corners lie; 0 where there is none. Where
+// an arch that was moved inwards meets its jambs, its two ends lie off the circle, by
+// less than its chords do.
+double Kreisradius(const std::vector<XY>& ecken) {
+  if (ecken.size() < kMinKreisecken) return 0.0;
+  const std::size_t last = ecken.size() - 2;
+  const bool inner = last >= kMinKreisecken;
+  const std::size_t from = inner ? 1 : 0;
+  const std::size_t to = inner ? last : last + 1;
+  XY mitte;
+  if (!Kreismitte(ecken[from], ecken[(from + to) / 2], ecken[to], mitte)) return 0.0;
+  const double radius = Abstand(mitte, ecken[from]);
+  double sehne = 0.0;
+  for (std::size_t i = from; i <= to; ++i) {
+    if (!Nahe(Abstand(mitte, ecken[i]), radius, kGleichesMasz)) return 0.0;
+    if (i > from) sehne = std::max(sehne, Abstand(ecken[i - 1], ecken[i]));
+  }
+  const double pfeilhoehe = sehne * sehne / (8.0 * radius);
+  const auto amKreis = [&](const XY& p) {
+    return Nahe(Abstand(mitte, p), radius, pfeilhoehe + kGleichesMasz);
+  };
+  return amKreis(ecken.front()) && amKreis(ecken.back()) ? radius : 0.0;
+}
+
+// By how much the arc is longer than its chords.
+double BogenJeSehne(const CMBauteil& bauteil, double radius) {
+  double bogen = 0.0;
+  for (const GEOM2_Achse& achse : bauteil.Achsen) {
+    bogen += 2.0 * radius * std::asin(std::min(1.0, achse.dLaenge / (2.0 * radius)));
+  }
+  return bogen / bauteil.GetAchsLaenge();
+}
+
+std::vector<double> Verlauf(const CMBauteil& bauteil) {
+  std::vector<double> verlauf;
+  for (long i = 0; i < bauteil.lGetAnzAchsen(); ++i) {
+    if (i > 0) {
+      const double knick = bauteil.Achse(i).dWinkel - bauteil.Achse(i - 1).dWinkel;
+      verlauf.push_back(std::remainder(knick, 360.0));
+    }
+    verlauf.push_back(bauteil.Achse(i).dLaenge);
+  }
+  return verlauf;
+}
+
+void MesseGebogenen(const CMBauteil& bauteil, Stab& stab) {
+  double rechts = 0.0;
+  double links = 0.0;
+  for (long i = 0; i < bauteil.lGetAnzAchsen(); ++i) {
+    const Segmentmasze segment = MesseSegment(bauteil, i);
+    rechts += segment.rechts;
+    links += segment.links;
+  }
+  stab.laenge = std::max(rechts, links);
+  stab.radius = Kreisradius(Achsecken(bauteil));
+  if (stab.radius > 0.0) stab.laenge *= BogenJeSehne(bauteil, stab.radius);
+  stab.verlauf = Verlauf(bauteil);
+}
+
+bool VerlaufGleich(const std::vector<double>& a, const std::vector<double>& b) {
+  // Lengths and turns take turns; both are held to their own tolerance.
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    if (!Nahe(a[i], b[i], i % 2 == 0 ? kGleichesMasz : kGleicherSchnitt)) return false;
+  }
+  return true;
+}
+
+bool UmrissGleich(const std::vector<XY>& a, const std::vector<XY>& b) {
+  if (a.size() != b.size()) return false;
+  const auto fromCorner = [&](std::size_t shift) {
+    for (std::size_t i = 0; i < a.size(); ++i) {
+      if (Abstand(a[i], b[(i + shift) % b.size()]) > kGleichesMasz) return false;
+    }
+    return true;
+  };
+  for (std::size_t shift = 0; shift < b.size(); ++shift) {
+    if (fromCorner(shift)) return true;
+  }
+  return a.empty();
+}
+
+}  // namespace
+
+Stab MesseStab(TeilArt art, const CMBauteil& bauteil) {
+  Stab stab;
+  stab.art = art;
+  stab.dicke = bauteil.dDicke;
+  stab.segmente = bauteil.lGetAnzAchsen();
+  if (stab.segmente == 0) return stab;
+  const Segmentmasze erstes = MesseSegment(bauteil, 0);
+  stab.laenge = erstes.laengs;
+  stab.breite = erstes.quer;
+  stab.achslaenge = bauteil.GetAchsLaenge();
+  stab.winkelAnfang = bauteil.Achse(0).dWinkelAnfang;
+  stab.winkelEnde = bauteil.Achse(stab.segmente - 1).dWinkelEnde;
+  stab.mittig = IsMittig(art, bauteil);
+  if (stab.segmente > 1) MesseGebogenen(bauteil, stab);
+  return stab;
+}
+
+Scheibe MesseScheibe(TeilArt art, double dicke, const CFeApiPolygon& umriss) {
+  Scheibe scheibe;
+  scheibe.art = art;
+  scheibe.dicke = dicke;
+  GEOM2_Polygon polygon;
+  for (int i = 0; i < umriss.lAnzahl; ++i) polygon.AddPunkt(umriss.pdX[i], umriss.pdY[i]);
+  XY min;
+  XY max;
+  if (!polygon.GetMinMax(min, max)) return scheibe;
+  scheibe.breite = max.x - min.x;
+  scheibe.hoehe = max.y - min.y;
+  scheibe.flaeche = std::fabs(polygon.GetFlaeche());
+  for (int i = 0; i < umriss.lAnzahl; ++i) {
+    const XY p{umriss.pdX[i] - min.x, umriss.pdY[i] - min.y};
+    const bool amEck =
+        (Nahe(p.x, 0.0, kGleichesMasz) || Nahe(p.x, scheibe.breite, kGleichesMasz)) &&
+        (Nahe(p.y, 0.0, kGleichesMasz) || Nahe(p.y, scheibe.hoehe, kGleichesMasz));
+    scheibe.rechteckig = scheibe.rechteckig && amEck;
+    scheibe.umriss.push_back(p);
+  }
+  // Three of the box's corners make a triangle.
+  scheibe.rechteckig = scheibe.rechteckig && umriss.lAnzahl >= 4;
+  return scheibe;
+}
+
+bool SchneidetGleich(const Stab& a, const Stab& b) {
+  const auto gleich = [](double x, double y) { return Nahe(x, y, kGleichesMasz); };
+  const auto schnitteGleich = [](double a1, double a2, double b1, double b2) {
+    return Nahe(a1, b1, kGleicherSchnitt) && Nahe(a2, b2, kGleicherSchnitt);
+  };
+  const bool umgedreht = a.mittig && b.mittig && a.segmente == 1;
+  return a.art == b.art && a.segmente == b.segmente && gleich(a.laenge, b.laenge) &&
+         gleich(a.achslaenge, b.achslaenge) && gleich(a.breite, b.breite) &&
+         gleich(a.dicke, b.dicke) && gleich(a.radius, b.radius) &&
+         VerlaufGleich(a.verlauf, b.verlauf) &&
+         (schnitteGleich(a.winkelAnfang, a.winkelEnde, b.winkelAnfang, b.winkelEnde) ||
+          (umgedreht &&
+           schnitteGleich(a.winkelAnfang, a.winkelEnde, b.winkelEnde, b.winkelAnfang)));
+}
+
+bool SchneidetGleich(const Scheibe& a, const Scheibe& b) {
+  const auto gleich = [](double x, double y) { return Nahe(x, y, kGleichesMasz); };
+  return a.art == b.art && gleich(a.dicke, b.dicke) && gleich(a.breite, b.breite) &&
+         gleich(a.hoehe, b.hoehe) && UmrissGleich(a.umriss, b.umriss);
+}
+
+}  // namespace lintavo::tools
