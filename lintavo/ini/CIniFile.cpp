@@ -4,10 +4,12 @@
 
 #include <cstdio>
 #include <cstring>
+#include <string>
 #include <utility>
 
 #include "lintavo/platform/CaseFold_intern.h"
 #include "lintavo/platform/Files_intern.h"
+#include "lintavo/platform/SaveFile.h"
 #include "lintavo/platform/Whitespace_intern.h"
 
 namespace {
@@ -17,6 +19,10 @@ namespace {
 constexpr std::size_t kPieceLength = 255;
 
 constexpr std::size_t kBlockLength = 16384;
+
+// Of anything longer, an endless device for one, a document would only fill the
+// memory: files of windows have a thousandth of that.
+constexpr std::size_t kMaxFileLength = std::size_t{64} << 20;
 
 bool IsHeader(std::string_view line) {
   return !line.empty() && line.front() == '[';
@@ -57,6 +63,9 @@ class PieceReader {
     return {start, length};
   }
 
+  // Whether what was handed out is less than the whole file.
+  bool HasFailed() const { return failed_; }
+
  private:
   // Moves what is left to the front and fills up behind it.
   void Refill() {
@@ -67,13 +76,17 @@ class PieceReader {
     const std::size_t wanted = kBlockLength - end_;
     const std::size_t read = std::fread(block_ + end_, 1, wanted, file_);
     end_ += read;
-    atEnd_ = read < wanted;
+    total_ += read;
+    failed_ = total_ > kMaxFileLength || std::ferror(file_) != 0;
+    atEnd_ = failed_ || read < wanted;
   }
 
   std::FILE* file_;
   std::size_t begin_ = 0;
   std::size_t end_ = 0;
+  std::size_t total_ = 0;
   bool atEnd_ = false;
+  bool failed_ = false;
   char block_[kBlockLength];
 };
 
@@ -84,11 +97,16 @@ CIniFile::~CIniFile() = default;
 int CIniFile::Read(const CString& path) {
   const lintavo::FilePtr file = lintavo::OpenFile(path, "r");
   if (file == nullptr) return 0;
+  const std::size_t linesBefore = m_Lines.size();
+  const int sectionsBefore = m_CntSections;
   PieceReader reader(file.get());
   for (std::string_view piece = reader.Next(); !piece.empty(); piece = reader.Next()) {
     AppendPiece(piece);
   }
-  return 1;
+  if (!reader.HasFailed()) return 1;
+  m_Lines.resize(linesBefore);
+  m_CntSections = sectionsBefore;
+  return 0;
 }
 
 void CIniFile::AppendPiece(std::string_view piece) {
@@ -101,16 +119,13 @@ void CIniFile::AppendPiece(std::string_view piece) {
 }
 
 int CIniFile::Write(const CString& path) const {
-  const lintavo::FilePtr file = lintavo::OpenFile(path, "w");
-  if (file == nullptr) return 0;
-  bool first = true;
+  std::string text;
   for (const CString& line : m_Lines) {
-    if (!first && IsHeader(line.View())) std::fputc('\n', file.get());
-    std::fputs(line, file.get());
-    std::fputc('\n', file.get());
-    first = false;
+    if (!text.empty() && IsHeader(line.View())) text += lintavo::kLineEnd;
+    // Like every piece read, a line is a C text.
+    text.append(static_cast<const char*>(line)).append(lintavo::kLineEnd);
   }
-  return 1;
+  return lintavo::SaveFile(path, text) ? 1 : 0;
 }
 
 void CIniFile::WriteTrace() const {

@@ -27,7 +27,8 @@ class LINTAVO_API CIniFile {
   CIniFile& operator=(const CIniFile&) = default;
   virtual ~CIniFile();
 
-  /// Appends the lines of a file: 1, or 0 when it cannot be opened. Lines are
+  /// Appends the lines of a file: 1, or 0 when it cannot be opened or not be read
+  /// to its end, or is longer than 64 MiB; nothing is appended then. Lines are
   /// trimmed at both ends and blank ones dropped. A line longer than 255
   /// characters becomes several lines of at most 255, each trimmed; what
   /// follows a zero byte in a piece is dropped with the rest of that piece.
@@ -35,8 +36,9 @@ class LINTAVO_API CIniFile {
   int Read(const CString& path);
 
   /// Writes all lines, with an empty line before each section header but one
-  /// in the first line: 1, or 0 when the file cannot be created. Errors while
-  /// writing are not reported.
+  /// in the first line, up to a zero byte in each: 1, or 0 when the file cannot be
+  /// written in full. A file that was there before is then as it was (see
+  /// lintavo::SaveFile).
   int Write(const CString& path) const;
 
   /// Prints the document to the standard error stream in debug builds; does

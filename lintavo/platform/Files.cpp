@@ -36,9 +36,6 @@ bool IsSeparator(char c) {
 CString PathToRead(const CString& path) {
   return path;
 }
-CString PathToWrite(const CString& path) {
-  return path;
-}
 bool IsFolder(std::FILE*) {
   return false;
 }
@@ -60,11 +57,6 @@ std::FILE* Open(const CString& path, const char* mode) {
   return ::_wfopen(wide.c_str(), std::wstring(mode, mode + std::strlen(mode)).c_str());
 }
 
-fs::path ToSystemPath(const CString& path) {
-  std::wstring wide;
-  return ToWide(path.View(), wide) ? fs::path(wide) : fs::path(std::string(path.View()));
-}
-
 CString FromSystemPath(const fs::path& path) {
   const std::u8string text = path.u8string();
   return std::string(text.begin(), text.end());
@@ -74,10 +66,6 @@ CString FromSystemPath(const fs::path& path) {
 
 std::FILE* Open(const CString& path, const char* mode) {
   return std::fopen(path, mode);
-}
-
-fs::path ToSystemPath(const CString& path) {
-  return path.View();
 }
 
 CString FromSystemPath(const fs::path& path) {
@@ -113,13 +101,6 @@ CString PathToRead(const CString& path) {
   return Exists(slashed) ? slashed : path;
 }
 
-CString PathToWrite(const CString& path) {
-  if (!HasBackslash(path) || Exists(path)) return path;
-  CString slashed = WithSlashes(path);
-  const int end = slashed.ReverseFind('/');
-  return Exists(slashed.Left(end + 1)) ? slashed : path;
-}
-
 bool IsFolder(std::FILE* file) {
   struct stat status {};
   return ::fstat(::fileno(file), &status) == 0 && S_ISDIR(status.st_mode);
@@ -132,9 +113,7 @@ bool IsFolder(std::FILE* file) {
 namespace lintavo {
 
 FilePtr OpenFile(const CString& path, const char* mode) {
-  const bool reading = mode[0] == 'r';
-  const CString found = reading ? PathToRead(path) : PathToWrite(path);
-  FilePtr file(Open(found, mode));
+  FilePtr file(Open(PathToRead(path), mode));
   // Elsewhere than on Windows a folder opens for reading like an empty file.
   if (file != nullptr && IsFolder(file.get())) file.reset();
   return file;
@@ -145,12 +124,32 @@ bool ReadFileStart(const CString& path, std::size_t limit, std::string& bytes) {
   if (file == nullptr) return false;
   std::string content(limit, '\0');
   content.resize(std::fread(content.data(), 1, limit, file.get()));
+  if (std::ferror(file.get()) != 0) return false;
   bytes = std::move(content);
   return true;
 }
 
 CString ExistingPath(const CString& path) {
   return PathToRead(path);
+}
+
+CString PathForWriting(const CString& path) {
+#ifndef _WIN32
+  if (HasBackslash(path) && !Exists(path)) {
+    CString slashed = WithSlashes(path);
+    if (Exists(slashed.Left(slashed.ReverseFind('/') + 1))) return slashed;
+  }
+#endif
+  return path;
+}
+
+std::filesystem::path ToSystemPath(const CString& path) {
+#ifdef _WIN32
+  std::wstring wide;
+  return ToWide(path.View(), wide) ? fs::path(wide) : fs::path(std::string(path.View()));
+#else
+  return path.View();
+#endif
 }
 
 std::vector<FolderEntry> ListFolder(const CString& folder) {

@@ -1,10 +1,11 @@
-// The one layer through which the library reaches files and folders. On POSIX
-// a path may use either separator: where the path as given does not exist, its
-// backslashes are tried as slashes.
+// The one layer through which the library reads files and folders; they are
+// written by SaveFile. On POSIX a path may use either separator: where the path
+// as given does not exist, its backslashes are tried as slashes.
 #pragma once
 
 #include <cstddef>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -20,20 +21,32 @@ struct CloseFile {
 /// An open file that closes itself. Errors of closing are not reported.
 using FilePtr = std::unique_ptr<std::FILE, CloseFile>;
 
-/// Opens a file with a mode of fopen; null when that fails. For reading, a
-/// folder counts as not openable, and the path with slashes is tried when
-/// there is nothing under the path as given. For writing, the path with
-/// slashes is taken when no file of the given name exists and the folder that
-/// the slashes name does.
+/// Opens a file for reading with a mode of fopen; null when that fails. A folder
+/// counts as not openable, and the path with slashes is tried when there is
+/// nothing under the path as given.
 FilePtr OpenFile(const CString& path, const char* mode);
 
-/// Replaces bytes by the first limit bytes of a file; false, and bytes are
-/// left alone, when it cannot be opened. A shorter file gives fewer bytes.
+/// Replaces bytes by the first limit bytes of a file; false, and bytes are left
+/// alone, when it cannot be opened or read. A shorter file gives fewer bytes.
 bool ReadFileStart(const CString& path, std::size_t limit, std::string& bytes);
 
 /// The path itself where it exists, else the one with slashes where that
 /// exists, else the path itself.
 CString ExistingPath(const CString& path);
+
+/// The path with slashes when no file of the given name exists and the folder
+/// that the slashes name does, else the path itself.
+CString PathForWriting(const CString& path);
+
+/// The path as the system's own functions take it.
+std::filesystem::path ToSystemPath(const CString& path);
+
+/// What ends a line of text in a file.
+#ifdef _WIN32
+constexpr const char* kLineEnd = "\r\n";
+#else
+constexpr const char* kLineEnd = "\n";
+#endif
 
 struct FolderEntry {
   CString strName;
