@@ -1,9 +1,7 @@
 // What all pictures have in common: formats, statuses, files.
 #include "lintavo/drawing/Picture.h"
 
-#include <exception>
-#include <filesystem>
-#include <fstream>
+#include "lintavo/platform/SaveFile.h"
 
 namespace lintavo::drawing {
 namespace {
@@ -18,22 +16,6 @@ bool EndsWithInAnyCase(std::string_view text, std::string_view lowerCaseEnding) 
   }
   return true;
 }
-
-// Paths are UTF-8 on Windows and the system's own bytes elsewhere. One that is no
-// UTF-8 becomes an empty path, which cannot be opened.
-#ifdef _WIN32
-std::filesystem::path FilePath(const std::string& path) {
-  try {
-    return std::filesystem::path(std::u8string(path.begin(), path.end()));
-  } catch (const std::exception&) {
-    return {};
-  }
-}
-#else
-const std::string& FilePath(const std::string& path) {
-  return path;
-}
-#endif
 
 }  // namespace
 
@@ -73,10 +55,7 @@ PictureStatus WritePicture(const Scene& scene, PictureFormat format, const std::
   std::string bytes;
   const PictureStatus status = RenderPicture(scene, format, bytes, style);
   if (status != PictureStatus::kOk) return status;
-  std::ofstream file(FilePath(path), std::ios::binary | std::ios::trunc);
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  return file ? PictureStatus::kOk : PictureStatus::kNotWritten;
+  return SaveFile(path, bytes) ? PictureStatus::kOk : PictureStatus::kNotWritten;
 }
 
 }  // namespace lintavo::drawing

@@ -220,6 +220,26 @@ TEST_F(Tool, OutputThatCannotBeWrittenIsAnError) {
   EXPECT_EQ(WEXITSTATUS(raw), 1);
 }
 
+TEST_F(Tool, AFullDiskLeavesTheOldFilesUntouched) {
+  const std::string target = Path("alt.svg");
+  for (const std::string& command :
+       {"draw '" + kFanlight + "'", "fit '" + kFanlight + "' 240 175", "form '" + kFanlight + "'",
+        "position '" + kExamples + "Positionen/diele.txt' --base '" + kExamples + "'"}) {
+    std::ofstream(target) << "old content";
+    // Files may have 512 or 1024 bytes in this shell, depending on which it is.
+    const std::string full = "'" LINTAVO_TOOL "' " + command + " -o '" + target + "' 2>'" +
+                             Path("stderr") + "' >/dev/null";
+    const int raw = std::system(("trap '' XFSZ; ulimit -f 1; " + full).c_str());
+    EXPECT_TRUE(WIFEXITED(raw) && WEXITSTATUS(raw) == 1) << command;
+    EXPECT_EQ(
+        ReadBytes(Path("stderr")),
+        "lintavo: " + target + ": the file cannot be written; what it held before is untouched\n");
+    EXPECT_EQ(ReadBytes(target), "old content");
+    const fs::directory_iterator folder(Path(""));
+    EXPECT_EQ(std::distance(begin(folder), end(folder)), 2) << "the target and the message";
+  }
+}
+
 TEST_F(Tool, MakesTheWindowOfAParameterFile) {
   // As the examples' page tells: with the parts outside, 185 x 171.
   const std::string target = Path("schlafzimmer.aqz");

@@ -9,6 +9,8 @@
 #include "lintavo/ini/CIniFile.h"
 #include "lintavo/settings/CMFensterPosition.h"
 
+#include "OldFile.h"
+
 namespace lintavo::tools {
 namespace {
 
@@ -90,19 +92,20 @@ void MakePosition(const std::string& path, const std::string& baseDirectory,
   }
   if (target.empty()) return;
   RefuseSource(path, target);
-  if (!position.SaveToFile(target.c_str())) Fail(target, "the file cannot be written");
+  const OldFile old(target);
+  if (!position.SaveToFile(target.c_str())) old.FailNotWritten();
 }
 
 void SaveForm(const std::string& path, const std::string& target, CFeApi& window) {
   RefuseSource(path, target);
   const std::string typ = std::filesystem::path(path).stem().string();
-  if (window.WriteParameterFormular(target.c_str(), typ.c_str()) != 1) {
-    Fail(target, "the file cannot be written");
-  }
+  const OldFile old(target);
+  if (window.WriteParameterFormular(target.c_str(), typ.c_str()) != 1) old.FailNotWritten();
 }
 
 void SaveWindow(const std::string& path, CFeApi& window) {
-  if (window.WriteToFile(path.c_str()) != 1) Fail(path, "the file cannot be written");
+  const OldFile old(path);
+  if (window.WriteToFile(path.c_str()) != 1) old.FailNotWritten();
 }
 
 }  // namespace lintavo::tools

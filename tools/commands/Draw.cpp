@@ -11,6 +11,7 @@
 #include "Checks.h"
 #include "Console.h"
 #include "Numbers.h"
+#include "OldFile.h"
 #include "StyleFile.h"
 #include "WindowFile.h"
 #include "commands/Commands.h"
@@ -64,12 +65,12 @@ void Draw(const DrawOptions& options) {
   if (ParseSize(options.size, width, height)) FitWindow(options.file, width, height, window);
   drawing::PictureFormat format{};
   drawing::FormatFromPath(options.picture, format);
+  const OldFile old(options.picture);
   const drawing::PictureStatus status = drawing::WritePicture(
       drawing::BuildScene(window, ToSceneOptions(options, style)), format, options.picture, style);
   if (status == drawing::PictureStatus::kOk) return;
-  const bool atTarget = status == drawing::PictureStatus::kNotWritten;
-  throw CommandError(drawing::ToDisplayText(atTarget ? options.picture : options.file) + ": " +
-                     drawing::StatusText(status));
+  if (status == drawing::PictureStatus::kNotWritten) old.FailNotWritten();
+  throw CommandError(drawing::ToDisplayText(options.file) + ": " + drawing::StatusText(status));
 }
 
 void AddSceneOptions(CLI::App& command, DrawOptions& options) {

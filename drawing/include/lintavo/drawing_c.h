@@ -33,7 +33,7 @@ enum {
   LINTAVO_PICTURE_EMPTY = 1,       /**< the window has nothing to draw */
   LINTAVO_PICTURE_UNBOUNDED = 2,   /**< a coordinate or the extent is no finite number */
   LINTAVO_PICTURE_FAILED = 3,      /**< the graphics library reported an error */
-  LINTAVO_PICTURE_NOT_WRITTEN = 4, /**< the file cannot be opened or written in full */
+  LINTAVO_PICTURE_NOT_WRITTEN = 4, /**< the file cannot be written in full; an old one stays */
   LINTAVO_PICTURE_NO_GRAPHICS = 5, /**< the library was built without a graphics library */
   LINTAVO_PICTURE_BAD_ARGUMENT = 6 /**< a null argument, an unknown format or option */
 };

@@ -18,7 +18,7 @@ enum class PictureStatus {
   kEmpty,       ///< the scene has nothing to draw
   kUnbounded,   ///< a coordinate or the extent is no finite number
   kFailed,      ///< the graphics library reported an error
-  kNotWritten,  ///< the file cannot be opened or written in full
+  kNotWritten,  ///< the file cannot be written in full
   kNoGraphics   ///< the library was built without a graphics library
 };
 
@@ -39,8 +39,8 @@ LINTAVO_DRAWING_API bool FormatFromPath(std::string_view path, PictureFormat& fo
 LINTAVO_DRAWING_API PictureStatus RenderPicture(const Scene& scene, PictureFormat format,
                                                 std::string& bytes, const Style& style = {});
 
-/// Renders the picture and writes it to `path`, replacing a file of that name.
-/// Nothing is opened when rendering fails.
+/// Renders the picture and writes it to `path`, replacing a file of that name, which
+/// stays as it is when rendering or writing fails (see `SaveFile`).
 LINTAVO_DRAWING_API PictureStatus WritePicture(const Scene& scene, PictureFormat format,
                                                const std::string& path, const Style& style = {});
 
