@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string>
 
 namespace lintavo::tools {
 namespace {
@@ -13,10 +12,6 @@ constexpr std::size_t kStep = 2;
 bool IsPlain(const Json& value) {
   return std::none_of(value.begin(), value.end(),
                       [](const Json& member) { return member.is_structured(); });
-}
-
-void NewLine(std::size_t indent, std::ostream& out) {
-  out << '\n' << std::string(indent, ' ');
 }
 
 }  // namespace
@@ -38,23 +33,68 @@ Json JsonPolygon(const CFeApiPolygon& polygon) {
   return points;
 }
 
-void WriteJson(const Json& value, std::size_t indent, std::ostream& out) {
+Json JsonPolygon(const GEOM2_Polygon& polygon) {
+  Json points = Json::array();
+  for (int i = 0; i < polygon.GetAnzahl(); ++i) {
+    points.push_back(JsonPoint(polygon.GetEckpunkt(i).x, polygon.GetEckpunkt(i).y));
+  }
+  return points;
+}
+
+void JsonWriter::NextLine() {
+  if (levels_.empty()) return;
+  if (levels_.back().any) out_ << ',';
+  levels_.back().any = true;
+  out_ << '\n' << std::string(kStep * levels_.size(), ' ');
+}
+
+void JsonWriter::Begin(char opening, char closing) {
+  NextLine();
+  out_ << opening;
+  levels_.push_back({closing});
+}
+
+void JsonWriter::Begin(const char* key, char opening, char closing) {
+  NextLine();
+  out_ << Json(key).dump() << ": " << opening;
+  levels_.push_back({closing});
+}
+
+void JsonWriter::End() {
+  const Level level = levels_.back();
+  levels_.pop_back();
+  if (level.any) out_ << '\n' << std::string(kStep * levels_.size(), ' ');
+  out_ << level.closing;
+  if (levels_.empty()) out_ << '\n';
+}
+
+void JsonWriter::Add(const Json& value) {
+  NextLine();
+  Write(value);
+}
+
+void JsonWriter::Add(const char* key, const Json& value) {
+  NextLine();
+  out_ << Json(key).dump() << ": ";
+  Write(value);
+}
+
+void JsonWriter::Write(const Json& value) {
   if (!value.is_structured() || IsPlain(value)) {
-    out << value.dump();
+    out_ << value.dump();
     return;
   }
   const bool object = value.is_object();
-  out << (object ? '{' : '[');
-  bool first = true;
+  out_ << (object ? '{' : '[');
+  levels_.push_back({object ? '}' : ']'});
   for (const auto& [key, member] : value.items()) {
-    if (!first) out << ',';
-    first = false;
-    NewLine(indent + kStep, out);
-    if (object) out << Json(key).dump() << ": ";
-    WriteJson(member, indent + kStep, out);
+    if (object) {
+      Add(key.c_str(), member);
+    } else {
+      Add(member);
+    }
   }
-  NewLine(indent, out);
-  out << (object ? '}' : ']');
+  End();
 }
 
 }  // namespace lintavo::tools

@@ -6,7 +6,7 @@
 namespace lintavo::tools {
 namespace {
 
-constexpr const char* kSchema = "lintavo-parts/1";
+constexpr const char* kPartsSchema = "lintavo-parts/1";
 
 Json Begun(TeilArt art, const std::vector<Stelle>& stellen, const PartsStyle& style) {
   Json row;
@@ -21,7 +21,7 @@ Json Places(const std::vector<Stelle>& stellen) {
   for (const Stelle& stelle : stellen) {
     Json place;
     place["window"] = stelle.fenster;
-    place["sash"] = stelle.fluegel < 0 ? Json(nullptr) : Json(stelle.fluegel);
+    place["sash"] = stelle.fluegel == kRahmensatz ? Json(nullptr) : Json(stelle.fluegel);
     place["id"] = stelle.id;
     places.push_back(std::move(place));
   }
@@ -62,33 +62,37 @@ Json RowOf(const Beschlaege& beschlaege, const PartsStyle& style) {
 }
 
 template <class Zeile>
-Json RowsOf(const std::vector<Zeile>& zeilen, const PartsStyle& style) {
-  Json rows = Json::array();
-  for (const Zeile& zeile : zeilen) rows.push_back(RowOf(zeile, style));
-  return rows;
+void AddRows(const char* key, const std::vector<Zeile>& zeilen, const PartsStyle& style,
+             JsonWriter& json) {
+  json.BeginArray(key);
+  for (const Zeile& zeile : zeilen) json.Add(RowOf(zeile, style));
+  json.End();
+}
+
+Json Described(const PartsWindow& window) {
+  Json described;
+  described["file"] = window.datei;
+  described["name"] = window.name;
+  described["width"] = JsonNumber(window.breite);
+  described["height"] = JsonNumber(window.hoehe);
+  described["sashes"] = window.fluegel;
+  return described;
 }
 
 }  // namespace
 
 void WritePartsJson(const PartsList& list, const std::vector<PartsWindow>& windows,
                     const PartsStyle& style, std::ostream& out) {
-  Json document;
-  document["schema"] = kSchema;
-  document["windows"] = Json::array();
-  for (const PartsWindow& window : windows) {
-    Json described;
-    described["file"] = window.datei;
-    described["name"] = window.name;
-    described["width"] = JsonNumber(window.breite);
-    described["height"] = JsonNumber(window.hoehe);
-    described["sashes"] = window.fluegel;
-    document["windows"].push_back(std::move(described));
-  }
-  document["bars"] = RowsOf(list.staebe, style);
-  document["panes"] = RowsOf(list.scheiben, style);
-  document["fittings"] = RowsOf(list.beschlaege, style);
-  WriteJson(document, 0, out);
-  out << '\n';
+  JsonWriter json(out);
+  json.BeginObject();
+  json.Add("schema", kPartsSchema);
+  json.BeginArray("windows");
+  for (const PartsWindow& window : windows) json.Add(Described(window));
+  json.End();
+  AddRows("bars", list.staebe, style, json);
+  AddRows("panes", list.scheiben, style, json);
+  AddRows("fittings", list.beschlaege, style, json);
+  json.End();
 }
 
 }  // namespace lintavo::tools

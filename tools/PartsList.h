@@ -12,7 +12,8 @@
 #include "lintavo/geom/GEOM2_Polygon.h"
 #include "lintavo/geom/XY.h"
 #include "lintavo/model/CMBauteil.h"
-#include "lintavo/sash/CMFensterSatz.h"
+
+#include "WindowParts.h"
 
 namespace lintavo::tools {
 
@@ -21,28 +22,11 @@ inline constexpr double kGleichesMasz = 0.001;
 /// The same for cut angles, in degrees.
 inline constexpr double kGleicherSchnitt = 0.01;
 
-/// What a piece is; lists are in this order.
-enum class TeilArt {
-  kRahmen,
-  kFluegelrahmen,
-  kPfosten,  ///< rather upright than level
-  kRiegel,
-  kZusatzInnen,
-  kZusatzAussen,
-  kSprosse,
-  kLamelle,
-  kGlas,
-  kPaneel,
-  kGriff,
-  kBand,
-  kBeschlag  ///< fitting that is neither handle nor hinge
-};
-
 /// Where a piece goes.
 struct Stelle {
-  std::size_t fenster = 0;  ///< index of the window, in the order of adding
-  long fluegel = -1;        ///< index of the sash, -1 for the window's frame
-  std::string id{};         ///< as in pictures, see `lintavo/drawing/Ids.h`
+  std::size_t fenster = 0;     ///< index of the window, in the order of adding
+  long fluegel = kRahmensatz;  ///< index of the sash
+  std::string id{};            ///< as in pictures, see `lintavo/drawing/Ids.h`
 };
 
 /// Bars that the saw cuts alike.
@@ -136,10 +120,8 @@ class PartsCollector {
   template <class Zeile>
   void Einreihen(Zeile zeile, double masz, Stelle stelle, Fundstellen& fundstellen,
                  std::vector<Zeile>& zeilen);
-  void AddStab(TeilArt art, const CMBauteil& bauteil, long fluegel, std::string id);
-  void AddRahmen(const CMFensterSatz& rahmen);
+  void AddStaebe(const std::vector<Komponente>& komponenten);
   void AddFluegel(const CFeApi& window, const CMFensterSatz& satz, long fluegel);
-  void AddLamellen(const CMFensterSatz& satz, long fluegel);
   void AddScheibe(const CFeApi& window, long fluegel);
   void AddBeschlaege(const CMFensterSatz& satz, long fluegel);
 

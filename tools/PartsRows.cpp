@@ -74,7 +74,7 @@ class RowMaker {
   }
 
   std::string Record(const Stelle& stelle) const {
-    if (stelle.fluegel < 0) return kRahmenWort.In(style_.sprache);
+    if (stelle.fluegel == kRahmensatz) return kRahmenWort.In(style_.sprache);
     const std::string& name =
         windows_[stelle.fenster].fluegel[static_cast<std::size_t>(stelle.fluegel)];
     if (!name.empty()) return name;

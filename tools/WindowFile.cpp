@@ -27,13 +27,6 @@ bool CanBeOpened(const std::string& path) {
   return std::ifstream(path).is_open();
 }
 
-// Nothing that a command makes may take the place of what it is made from.
-void RefuseSource(const std::string& source, const std::string& target) {
-  std::error_code unknown;
-  if (!std::filesystem::equivalent(source, target, unknown)) return;
-  Fail(target, "the file would overwrite the one that it is made from");
-}
-
 // The façade's form of a window that another object holds. Line feeds are skipped in
 // a buffer, so lines end with what cannot stand in one.
 bool TakeOver(const CMFenster& fenster, CFeApi& window) {
@@ -53,6 +46,12 @@ void Fail(const std::string& path, const std::string& message) {
   const std::string file = ToDisplayText(path);
   if (message.find("'" + file + "'") != std::string::npos) throw CommandError(message);
   throw CommandError(file + ": " + message);
+}
+
+void RefuseSource(const std::string& source, const std::string& target) {
+  std::error_code unknown;
+  if (!std::filesystem::equivalent(source, target, unknown)) return;
+  Fail(target, "the file would overwrite the one that it is made from");
 }
 
 void LoadWindow(const std::string& path, CFeApi& window) {

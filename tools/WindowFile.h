@@ -18,6 +18,10 @@ class CommandError : public std::runtime_error {
 /// in it.
 [[noreturn]] void Fail(const std::string& path, const std::string& message);
 
+/// Throws `CommandError` when both names are one file: nothing that a command makes may
+/// take the place of what it is made from.
+void RefuseSource(const std::string& source, const std::string& target);
+
 /// Reads and calculates a macro file, compressed when its name ends in "cqz".
 /// Throws `CommandError` with the library's own message, and for a file without
 /// any sash; the text names the file.

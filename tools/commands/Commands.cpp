@@ -11,6 +11,7 @@ std::span<const AddCommand> AllCommands() {
       AddPosition,  //
       AddForm,      //
       AddParts,     //
+      AddExport,    //
   };
   return kCommands;
 }

@@ -23,6 +23,7 @@ void AddDraw(CLI::App& app, Console& console);
 void AddPosition(CLI::App& app, Console& console);
 void AddForm(CLI::App& app, Console& console);
 void AddParts(CLI::App& app, Console& console);
+void AddExport(CLI::App& app, Console& console);
 
 /// In the order in which the help names them.
 std::span<const AddCommand> AllCommands();

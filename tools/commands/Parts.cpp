@@ -9,6 +9,7 @@
 #include "Checks.h"
 #include "Console.h"
 #include "Numbers.h"
+#include "Output.h"
 #include "PartsJson.h"
 #include "PartsList.h"
 #include "PartsText.h"
@@ -23,6 +24,7 @@ constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
 
 struct PartsArguments {
   std::vector<std::string> files;
+  std::string target;
   std::string format = "table";
   std::string language = "de";
   std::string decimal;  // that of the language
@@ -71,7 +73,8 @@ void Parts(const PartsArguments& arguments, Console& console) {
   }
   PartsList list = collector.Sorted();
   Skaliere(scale, list);
-  Write(arguments, list, windows, console.Out());
+  WriteOutput(arguments.target, arguments.files, console,
+              [&](std::ostream& out) { Write(arguments, list, windows, out); });
 }
 
 void AddFormatOptions(CLI::App& command, PartsArguments& arguments) {
@@ -104,6 +107,7 @@ void AddParts(CLI::App& app, Console& console) {
       ->add_option("--scale", arguments->scale,
                    "Multiply lengths, by 10 for millimetres from centimetres; areas by its square")
       ->check(CheckLength);
+  command->add_option("-o,--output", arguments->target, "File to write");
   AddFormatOptions(*command, *arguments);
   command->callback([arguments, &console] { Parts(*arguments, console); });
 }
