@@ -371,6 +371,34 @@ TEST_F(Tool, PicturesTakeColoursPensAndSizesFromFiles) {
   EXPECT_FALSE(fs::exists(Path("b.svg")));
 }
 
+TEST_F(Tool, ListsAndExportsComeWholeOrNotAtAll) {
+  const std::string good = "'" + kFanlight + "'";
+  for (const std::string command : {"parts ", "export "}) {
+    ExpectError(command + good + " missing.aqz", "missing.aqz");
+    ExpectError(command + good + " -o no/folder/list", "no/folder/list");
+
+    const std::string copy = Path("copy.aqz");
+    fs::copy_file(kFanlight, copy, fs::copy_options::overwrite_existing);
+    ExpectError(command + "'" + copy + "' -o '" + copy + "'", "would overwrite");
+    EXPECT_EQ(ReadBytes(copy), ReadBytes(kFanlight));
+
+    const std::string target = Path("list");
+    const Outcome plain = Run(command + good);
+    EXPECT_EQ(plain.status, 0) << plain.err;
+    EXPECT_EQ(Run(command + good + " -o '" + target + "'").out, "");
+    EXPECT_EQ(ReadBytes(target), plain.out);
+    EXPECT_EQ(Run(command + good, "LC_ALL=de_DE.UTF-8").out, plain.out);
+  }
+  const std::string list = "parts --format csv " + good;
+  const std::string csv = Run(list).out;
+  EXPECT_EQ(csv.compare(0, 7, "Anzahl;"), 0) << csv;
+  EXPECT_EQ(Run(list + " --bom").out, "\xEF\xBB\xBF" + csv);
+  EXPECT_TRUE(Contains(Run(list + " --scale 10 --lang en").out, "\n2,sash frame,365,365,78,,68,"));
+  for (const char* wrong : {" --rebate nan", " --scale 0", " --format xls", " --decimal ,"}) {
+    EXPECT_EQ(Run(list + wrong).status, 2) << wrong;
+  }
+}
+
 TEST_F(Tool, WrongUsageEndsWithTwo) {
   const std::string file = "'" + kFanlight + "'";
   for (const std::string& arguments : {std::string(),
