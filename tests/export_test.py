@@ -56,6 +56,9 @@ def check_part(exported, part):
     assert exported["outline"] == points(part.outline), exported["id"]
     assert exported["axisLength"] == part.length
     assert [exported["startAngle"], exported["endAngle"]] == [part.start_angle, part.end_angle]
+    length, width = part.blank
+    assert abs(exported["width"] - width) < 1e-9, exported["id"]
+    assert exported["radius"] is not None or abs(exported["length"] - length) < 1e-9
     assert len(exported["segments"]) in (0, len(part.segments))
     for segment, own in zip(exported["segments"], part.segments):
         assert segment["outline"] == points(own.outline), segment["id"]

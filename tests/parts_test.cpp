@@ -38,7 +38,7 @@ CMBauteil Bar(long lage, double breite, double laenge, double anfang, double end
   return bar;
 }
 
-TEST(Parts, TheBlankReachesOverBothEdges) {
+TEST(Parts, TheBlankReachesFromTipToTip) {
   const double slope = std::atan(0.5) * kGradJeRadiant;
   const struct {
     const char* what;

@@ -32,8 +32,8 @@ struct Stelle {
 /// Bars that the saw cuts alike.
 struct Stab {
   TeilArt art = TeilArt::kRahmen;
-  /// Of the blank: the extent along the axis, whichever edge is the longer one. Of a bent
-  /// part developed along its longer edge, as an arc where it has a radius.
+  /// Of the blank, from tip to tip along the axis. Of a bent part developed along its
+  /// longer edge, as an arc where it has a radius.
   double laenge = 0.0;
   double achslaenge = 0.0;  ///< as the façade answers it
   double breite = 0.0;      ///< of the blank, across the axis in the window's plane

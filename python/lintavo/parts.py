@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 import enum
+import math
 from dataclasses import dataclass
 from typing import TYPE_CHECKING, Iterator, List, MutableMapping, Tuple
 
@@ -41,6 +42,32 @@ class Part:
     end_angle: float  #: cut at the end, degrees
     thickness: float
     segments: Tuple["Part", ...] = ()  #: of a whole component; straight ones have one
+
+    @property
+    def blank(self) -> Tuple[float, float]:
+        """Length and width of the bar that the part is cut from: how far its outline
+        reaches along its axis, from tip to tip, and across it. A bent part is developed
+        along its longer edge, its segments taken as they are."""
+        if len(self.segments) > 1:
+            right, left = (sum(edge) for edge in zip(*map(Part._edges, self.segments)))
+            return max(right, left), self.segments[0].blank[1]
+        along, across = self._in_axis()
+        return max(along) - min(along), max(across) - min(across)
+
+    def _in_axis(self) -> Tuple[List[float], List[float]]:
+        """Positions of a straight part's corners along and across its axis: right start,
+        right end, left end, left start."""
+        a, b, c, d = self.outline
+        start, end = (a, b) if math.dist(a, b) > 1e-6 else (d, c)
+        length = math.dist(start, end)
+        x, y = (end.x - start.x) / length, (end.y - start.y) / length
+        along = [point.x * x + point.y * y for point in self.outline]
+        across = [point.y * x - point.x * y for point in self.outline]
+        return along, across
+
+    def _edges(self) -> Tuple[float, float]:
+        a, b, c, d = self._in_axis()[0]
+        return b - a, c - d
 
 
 @dataclass(frozen=True)

@@ -33,6 +33,16 @@ class Reading(unittest.TestCase):
                     total = sum(segment.length for segment in part.segments)
                     self.assertAlmostEqual(part.length, total, places=6)
 
+    def test_blanks_reach_from_tip_to_tip(self):
+        # The window is L-shaped: the mitre in its inward corner reaches 7 beyond the axes
+        # of 80 and 110.
+        with lintavo.Window.read(example("balkontuer_mit_fenster.aqz")) as window:
+            blanks = [part.blank for part in window.frame_parts]
+        expected = [(90, 5), (87, 7), (117, 7), (130, 7), (200, 7), (210, 7)]
+        for blank, (length, width) in zip(blanks, expected):
+            self.assertAlmostEqual(blank[0], length)
+            self.assertAlmostEqual(blank[1], width)
+
     def test_compressed_and_plain_file_give_the_same_window(self):
         with rectangle_window() as plain:
             with lintavo.Window.read(example("drehkipp_einfluegelig.cqz")) as compressed:
