@@ -22,7 +22,7 @@ std::pair<std::size_t, std::size_t> Enden(const Umrisskante& k) {
 
 /// Leaves of the edges between the same two places the earliest of the direction that
 /// prevails, or none.
-void Aufheben(std::vector<Umrisskante>& kanten) {
+void Aufheben(Liste<Umrisskante>& kanten) {
   std::sort(kanten.begin(), kanten.end(), [](const Umrisskante& s, const Umrisskante& t) {
     return std::make_pair(Enden(s), s.kante) < std::make_pair(Enden(t), t.kante);
   });
@@ -46,7 +46,7 @@ void Aufheben(std::vector<Umrisskante>& kanten) {
 /// The places where edges cross, found again when several edges cross in one of them.
 class Kreuzungsorte {
  public:
-  explicit Kreuzungsorte(std::vector<XY>& orte) : orte_(orte) {}
+  explicit Kreuzungsorte(Liste<XY>& orte) : orte_(orte) {}
 
   std::size_t Ort(const XY& p) {
     const Zelle mitte{std::floor(p.x / kNullLaenge), std::floor(p.y / kNullLaenge)};
@@ -64,7 +64,7 @@ class Kreuzungsorte {
 
  private:
   using Zelle = std::pair<double, double>;
-  std::vector<XY>& orte_;
+  Liste<XY>& orte_;
   std::map<Zelle, std::size_t> zellen_;
 };
 
@@ -81,13 +81,13 @@ struct Schnitt {
 /// Cuts edges where others cross or touch them.
 class Teilung {
  public:
-  Teilung(std::vector<XY>& orte, std::vector<Umrisskante>& kanten)
+  Teilung(Liste<XY>& orte, Liste<Umrisskante>& kanten)
       : orte_(orte), kanten_(kanten), kreuzungsorte_(orte) {}
 
   enum class Ausgang { kSauber, kGeteilt, kUnmoeglich };
 
   Ausgang Runde() {
-    std::vector<Verbindung> verbindungen;
+    Liste<Verbindung> verbindungen(kanten_.get_allocator());
     verbindungen.reserve(kanten_.size());
     for (const Umrisskante& k : kanten_) {
       verbindungen.push_back({orte_[k.von], orte_[k.nach], k.von, k.nach});
@@ -153,14 +153,14 @@ class Teilung {
     }
   }
 
-  std::vector<XY>& orte_;
-  std::vector<Umrisskante>& kanten_;
+  Liste<XY>& orte_;
+  Liste<Umrisskante>& kanten_;
   Kreuzungsorte kreuzungsorte_;
   std::vector<Schnitt> schnitte_;
 };
 
 /// Cutting moves edges by a rounding error, so now and then another round is needed.
-bool SauberTeilen(std::vector<XY>& orte, std::vector<Umrisskante>& kanten) {
+bool SauberTeilen(Liste<XY>& orte, Liste<Umrisskante>& kanten) {
   constexpr int kRunden = 5;
   Teilung teilung(orte, kanten);
   for (int runde = 0; runde < kRunden; ++runde) {
@@ -189,8 +189,12 @@ double Linksdrehung(const XY& zurueck, const XY& richtung) {
 
 class Aussenlauf {
  public:
-  Aussenlauf(const std::vector<XY>& orte, const std::vector<Umrisskante>& kanten)
-      : orte_(orte), kanten_(kanten), gruppe_(orte.size()) {
+  Aussenlauf(const Liste<XY>& orte, const Liste<Umrisskante>& kanten)
+      : orte_(orte),
+        kanten_(kanten),
+        gruppe_(orte.size(), orte.get_allocator()),
+        abgang_(orte.get_allocator()),
+        beginn_(orte.get_allocator()) {
     std::iota(gruppe_.begin(), gruppe_.end(), std::size_t{0});
     for (const Umrisskante& k : kanten) gruppe_[Gruppe(k.von)] = Gruppe(k.nach);
     abgang_.resize(kanten.size());
@@ -207,9 +211,9 @@ class Aussenlauf {
     std::vector<Ergebnisring> ringe;
     for (const std::size_t start : Startorte()) {
       // Left of the leftmost place there is nothing: come in from below, as it were.
-      std::vector<std::size_t> weg;
+      Liste<std::size_t> weg(orte_.get_allocator());
       if (!Laufen(start, weg)) return std::nullopt;
-      std::vector<std::size_t> orte;
+      Liste<std::size_t> orte(orte_.get_allocator());
       orte.reserve(weg.size());
       for (const std::size_t k : weg) orte.push_back(kanten_[k].von);
       for (const std::vector<std::size_t>& teil : AnBeruehrungenTeilen(orte)) {
@@ -226,10 +230,10 @@ class Aussenlauf {
   }
 
   /// Per group of connected edges its leftmost place, of several the lowest.
-  std::vector<std::size_t> Startorte() {
+  Liste<std::size_t> Startorte() {
     constexpr std::size_t keiner = kKeine;
-    std::vector<std::size_t> links(orte_.size(), keiner);
-    std::vector<std::size_t> gruppen;
+    Liste<std::size_t> links(orte_.size(), keiner, orte_.get_allocator());
+    Liste<std::size_t> gruppen(orte_.get_allocator());
     for (const Umrisskante& k : kanten_) {
       std::size_t& bester = links[Gruppe(k.von)];
       if (bester == keiner) gruppen.push_back(Gruppe(k.von));
@@ -261,7 +265,8 @@ class Aussenlauf {
     return Differenz(orte_[kanten_[kante].nach], orte_[kanten_[kante].von]);
   }
 
-  bool Laufen(std::size_t start, std::vector<std::size_t>& weg) const {
+  bool Laufen(std::size_t start, Liste<std::size_t>& weg) const {
+    weg.reserve(kanten_.size());
     const std::size_t erste = Weiter(start, {-1.0, 0.0});
     std::size_t kante = erste;
     do {
@@ -272,8 +277,7 @@ class Aussenlauf {
     return true;
   }
 
-  Ergebnisring Ring(const std::vector<std::size_t>& weg,
-                    const std::vector<std::size_t>& teil) const {
+  Ergebnisring Ring(const Liste<std::size_t>& weg, const std::vector<std::size_t>& teil) const {
     Ergebnisring ring;
     ring.reserve(teil.size());
     for (const std::size_t i : teil) {
@@ -283,17 +287,16 @@ class Aussenlauf {
     return ring;
   }
 
-  const std::vector<XY>& orte_;
-  const std::vector<Umrisskante>& kanten_;
-  std::vector<std::size_t> gruppe_;
-  std::vector<std::size_t> abgang_;  // the edges by the place where they start
-  std::vector<std::size_t> beginn_;
+  const Liste<XY>& orte_;
+  const Liste<Umrisskante>& kanten_;
+  Liste<std::size_t> gruppe_;
+  Liste<std::size_t> abgang_;  // the edges by the place where they start
+  Liste<std::size_t> beginn_;
 };
 
 }  // namespace
 
-std::optional<std::vector<Ergebnisring>> AussenUmlaufen(std::vector<XY> orte,
-                                                        std::vector<Umrisskante> kanten) {
+std::optional<std::vector<Ergebnisring>> AussenUmlaufen(Liste<XY> orte, Liste<Umrisskante> kanten) {
   Aufheben(kanten);
   if (!SauberTeilen(orte, kanten)) return std::nullopt;
   return Aussenlauf(orte, kanten).Ringe();

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "lintavo/geom/Flaechenrechnung_intern.h"
+#include "lintavo/platform/Arbeitsspeicher_intern.h"
 
 namespace lintavo {
 
@@ -27,7 +28,6 @@ struct Umrisskante {
 /// @param orte  the places.
 /// @return nothing when a shape crosses itself, when there are too many crossings (20,000)
 ///         for this, or when a walk does not close.
-std::optional<std::vector<Ergebnisring>> AussenUmlaufen(std::vector<XY> orte,
-                                                        std::vector<Umrisskante> kanten);
+std::optional<std::vector<Ergebnisring>> AussenUmlaufen(Liste<XY> orte, Liste<Umrisskante> kanten);
 
 }  // namespace lintavo

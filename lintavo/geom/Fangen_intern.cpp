@@ -19,7 +19,8 @@ constexpr std::size_t kMehrere = static_cast<std::size_t>(-1);
 /// Corners of different shapes that share a place; its place is that of the lowest.
 class Treffpunkte {
  public:
-  explicit Treffpunkte(const std::vector<Formecke>& ecken) : gruppen_(ecken.size()) {
+  Treffpunkte(std::span<const Formecke> ecken, Speicher speicher)
+      : gruppen_(ecken.size(), speicher) {
     for (std::size_t i = 0; i < ecken.size(); ++i) {
       gruppen_[i] = {i, ecken[i].ort, ecken[i].ort, ecken[i].form};
     }
@@ -57,7 +58,7 @@ class Treffpunkte {
     XY max;
     std::size_t form;
   };
-  std::vector<Gruppe> gruppen_;
+  Liste<Gruppe> gruppen_;
 };
 
 /// A place on its way along an edge.
@@ -68,13 +69,20 @@ struct Auffaedelung {
 
 class Fang {
  public:
-  Fang(const std::vector<Formecke>& ecken, double tol)
-      : ecken_(ecken), tol_(tol * kSpielraum), treffpunkte_(ecken) {
+  Fang(std::span<const Formecke> ecken, double tol, Speicher speicher)
+      : ecken_(ecken),
+        tol_(tol * kSpielraum),
+        speicher_(speicher),
+        treffpunkte_(ecken, speicher),
+        orte_(speicher),
+        einzelne_(speicher),
+        einzelneNr_(speicher) {
+    orte_.reserve(ecken.size());
     for (const Formecke& ecke : ecken) orte_.push_back(ecke.ort);
   }
 
   void EckenVerbinden() {
-    const Punktraster raster(orte_);
+    const Punktraster raster(orte_, speicher_);
     for (std::size_t i = 0; i < ecken_.size(); ++i) {
       const XY& p = ecken_[i].ort;
       raster.InBox({p.x - tol_, p.y - tol_}, {p.x + tol_, p.y + tol_}, [&](std::size_t j) {
@@ -85,9 +93,9 @@ class Fang {
     }
   }
 
-  std::vector<Fangecke> Ring(const std::vector<std::size_t>& ring,
-                             const std::vector<std::size_t>& kanten) {
-    std::vector<Fangecke> gefangen;
+  Liste<Fangecke> Ring(const Liste<std::size_t>& ring, const Liste<std::size_t>& kanten) {
+    Liste<Fangecke> gefangen(speicher_);
+    gefangen.reserve(ring.size());
     for (std::size_t k = 0; k < ring.size(); ++k) {
       const std::size_t ort = treffpunkte_.Ort(ring[k]);
       if (!gefangen.empty() && gefangen.back().ort == ort) gefangen.pop_back();
@@ -99,9 +107,11 @@ class Fang {
   }
 
   /// The places of all corners that remain, each once.
-  void OrteSammeln(const std::vector<std::vector<Fangecke>>& ringe) {
-    std::vector<bool> gesehen(ecken_.size(), false);
-    for (const std::vector<Fangecke>& ring : ringe) {
+  void OrteSammeln(const Liste<Liste<Fangecke>>& ringe) {
+    Liste<bool> gesehen(ecken_.size(), false, speicher_);
+    einzelne_.reserve(ecken_.size());
+    einzelneNr_.reserve(ecken_.size());
+    for (const Liste<Fangecke>& ring : ringe) {
       for (const Fangecke& ecke : ring) {
         if (gesehen[ecke.ort]) continue;
         gesehen[ecke.ort] = true;
@@ -112,11 +122,11 @@ class Fang {
   }
 
   /// Puts onto every edge of the ring the places of other shapes that lie on it.
-  std::vector<Fangecke> Einfuegen(const std::vector<Fangecke>& ring, const Punktraster& raster,
-                                  std::vector<bool>& treffpunkt) {
-    std::vector<Fangecke> voll;
+  Liste<Fangecke> Einfuegen(const Liste<Fangecke>& ring, const Punktraster& raster,
+                            Liste<bool>& treffpunkt) {
+    Liste<Fangecke> voll(speicher_);
     voll.reserve(ring.size() * 2);
-    std::vector<Auffaedelung> faden;
+    Liste<Auffaedelung> faden(speicher_);
     for (std::size_t k = 0; k < ring.size(); ++k) {
       voll.push_back(ring[k]);
       const Fangecke& danach = ring[(k + 1) % ring.size()];
@@ -129,12 +139,12 @@ class Fang {
     return voll;
   }
 
-  const std::vector<XY>& EinzelneOrte() const { return einzelne_; }
+  std::span<const XY> EinzelneOrte() const { return einzelne_; }
   bool IstTreffpunkt(std::size_t ort) const { return treffpunkte_.Form(ort) == kMehrere; }
 
  private:
   void Auffaedeln(std::size_t von, std::size_t bis, std::size_t form, const Punktraster& raster,
-                  std::vector<Auffaedelung>& faden) const {
+                  Liste<Auffaedelung>& faden) const {
     faden.clear();
     const XY& a = orte_[von];
     const XY& b = orte_[bis];
@@ -155,32 +165,34 @@ class Fang {
     });
   }
 
-  const std::vector<Formecke>& ecken_;
+  std::span<const Formecke> ecken_;
   double tol_;
+  Speicher speicher_;
   Treffpunkte treffpunkte_;
-  std::vector<XY> orte_;
-  std::vector<XY> einzelne_;
-  std::vector<std::size_t> einzelneNr_;
+  Liste<XY> orte_;
+  Liste<XY> einzelne_;
+  Liste<std::size_t> einzelneNr_;
 };
 
 }  // namespace
 
-Fangergebnis FormenFangen(const std::vector<Formecke>& ecken,
-                          const std::vector<std::vector<std::size_t>>& ringe,
-                          const std::vector<std::vector<std::size_t>>& kanten, double tol) {
-  Fang fang(ecken, tol);
+Fangergebnis FormenFangen(std::span<const Formecke> ecken,
+                          std::span<const Liste<std::size_t>> ringe,
+                          std::span<const Liste<std::size_t>> kanten, double tol,
+                          Speicher speicher) {
+  Fang fang(ecken, tol, speicher);
   fang.EckenVerbinden();
-  std::vector<std::vector<Fangecke>> gefangen;
+  Liste<Liste<Fangecke>> gefangen(speicher);
   gefangen.reserve(ringe.size());
   for (std::size_t f = 0; f < ringe.size(); ++f) gefangen.push_back(fang.Ring(ringe[f], kanten[f]));
 
   fang.OrteSammeln(gefangen);
-  Fangergebnis ergebnis;
-  ergebnis.treffpunkt.assign(ecken.size(), false);
+  Fangergebnis ergebnis{Liste<Liste<Fangecke>>(speicher),
+                        Liste<bool>(ecken.size(), false, speicher)};
   for (std::size_t i = 0; i < ecken.size(); ++i) ergebnis.treffpunkt[i] = fang.IstTreffpunkt(i);
-  const Punktraster raster(fang.EinzelneOrte());
+  const Punktraster raster(fang.EinzelneOrte(), speicher);
   ergebnis.ringe.reserve(gefangen.size());
-  for (const std::vector<Fangecke>& ring : gefangen) {
+  for (const Liste<Fangecke>& ring : gefangen) {
     ergebnis.ringe.push_back(fang.Einfuegen(ring, raster, ergebnis.treffpunkt));
   }
   return ergebnis;

@@ -4,9 +4,10 @@
 #pragma once
 
 #include <cstddef>
-#include <vector>
+#include <span>
 
 #include "lintavo/geom/XY.h"
+#include "lintavo/platform/Arbeitsspeicher_intern.h"
 
 namespace lintavo {
 
@@ -26,10 +27,10 @@ struct Fangecke {
 
 struct Fangergebnis {
   /// Per shape its ring, in the order handed in; empty when it has no area left.
-  std::vector<std::vector<Fangecke>> ringe;
+  Liste<Liste<Fangecke>> ringe;
   /// Per corner handed in, meaningful for those that are a place: whether several shapes
   /// meet here.
-  std::vector<bool> treffpunkt;
+  Liste<bool> treffpunkt;
 };
 
 /// @param ringe  per shape the numbers of its corners in counter-clockwise order, and
@@ -37,8 +38,9 @@ struct Fangergebnis {
 ///               from Fangecke::kante.
 /// @param kanten per shape and ring position the corner at which the outgoing edge
 ///               starts in the order handed in.
-Fangergebnis FormenFangen(const std::vector<Formecke>& ecken,
-                          const std::vector<std::vector<std::size_t>>& ringe,
-                          const std::vector<std::vector<std::size_t>>& kanten, double tol);
+Fangergebnis FormenFangen(std::span<const Formecke> ecken,
+                          std::span<const Liste<std::size_t>> ringe,
+                          std::span<const Liste<std::size_t>> kanten, double tol,
+                          Speicher speicher);
 
 }  // namespace lintavo

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 
 #include "lintavo/geom/Geraden.h"
 #include "lintavo/geom/Toleranzen.h"
@@ -57,6 +56,10 @@ class Strahl {
 
 }  // namespace
 
+void GEOM2_Polygon::Reservieren(int n) {
+  if (0 < n && n <= kMaxAnzahl) ecken_.reserve(static_cast<std::size_t>(n));
+}
+
 int GEOM2_Polygon::AddPunkt(double x, double y) {
   return AddPunkt(x, y, 0.0, 0.0, 0);
 }
@@ -89,11 +92,6 @@ void GEOM2_Polygon::GetPunkt(int i, GEOM2_Punkt& punkt) const {
   punkt = {ecke.x, ecke.y, ecke.dWert1};
 }
 
-const GEOM2_Eckpunkt& GEOM2_Polygon::GetEckpunkt(int i) const {
-  if (!IsIndex(i)) std::abort();
-  return ecken_[static_cast<std::size_t>(i)];
-}
-
 bool GEOM2_Polygon::SetPunkt(int i, double x, double y) {
   if (!IsIndex(i)) return false;
   GEOM2_Eckpunkt& ecke = ecken_[static_cast<std::size_t>(i)];
@@ -118,13 +116,6 @@ void GEOM2_Polygon::SetWert2(int i, double wert) {
   if (IsIndex(i)) ecken_[static_cast<std::size_t>(i)].dWert2 = wert;
 }
 
-bool GEOM2_Polygon::GetKante(int i, XY& a, XY& b) const {
-  if (!IsIndex(i)) return false;
-  a = lintavo::Ort(GetEckpunkt(i));
-  b = lintavo::Ort(GetEckpunkt(Naechster(i)));
-  return true;
-}
-
 bool GEOM2_Polygon::GetKante(int i, GEOM2_Punkt& a, GEOM2_Punkt& b) const {
   if (!IsIndex(i)) return false;
   GetPunkt(i, a);
@@ -147,6 +138,11 @@ bool GEOM2_Polygon::SetAnzahl(int n) {
 
 void GEOM2_Polygon::Clear() {
   ecken_.clear();
+  status_ = 0;
+}
+
+void GEOM2_Polygon::SetEcken(std::span<const GEOM2_Eckpunkt> ecken) {
+  ecken_.assign(ecken.begin(), ecken.end());
   status_ = 0;
 }
 
@@ -238,6 +234,7 @@ bool GEOM2_Polygon::KurzeKantenEntfernen(double minLaenge) {
   if (!kurz) return true;
 
   GEOM2_Polygon neu;
+  neu.Reservieren(GetAnzahl());
   for (int i = 0; i < GetAnzahl(); ++i) {
     if (GetKantenLaenge(i) >= minLaenge) neu.AddPunkt(GetEckpunkt(i));
   }

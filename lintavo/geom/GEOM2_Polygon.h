@@ -1,6 +1,8 @@
 // The kernel's closed polygon: the outline of a frame, a sash, a pane, a component.
 #pragma once
 
+#include <cstdlib>
+#include <span>
 #include <vector>
 
 #include "lintavo/geom/GEOM2_Achse.h"
@@ -22,6 +24,11 @@ class LINTAVO_API GEOM2_Polygon {
   int GetAnzahl() const { return static_cast<int>(ecken_.size()); }
   /// 0 after construction and Clear, 1 after SetAnzahl; carried, never read.
   int GetStatus() const { return status_; }
+  /// All vertices in order, valid until the polygon changes.
+  std::span<const GEOM2_Eckpunkt> GetEcken() const { return ecken_; }
+  /// Makes room for n vertices in all, so that appending them is quick; ignores a
+  /// count that no drawing has.
+  void Reservieren(int n);
   /// Appends a vertex and returns the new count.
   int AddPunkt(double x, double y);
   int AddPunkt(double x, double y, double dWert1);
@@ -34,7 +41,10 @@ class LINTAVO_API GEOM2_Polygon {
   void GetPunkt(int i, GEOM2_Punkt& punkt) const;
   /// The whole record of vertex i, valid until the polygon changes. A bad index is a
   /// programming error and ends the program.
-  const GEOM2_Eckpunkt& GetEckpunkt(int i) const;
+  const GEOM2_Eckpunkt& GetEckpunkt(int i) const {
+    if (!IsIndex(i)) std::abort();
+    return ecken_[static_cast<std::size_t>(i)];
+  }
   /// Coordinates only; false for a bad index.
   bool SetPunkt(int i, double x, double y);
   /// Attribute of the edge that starts at vertex i; 0 for a bad index.
@@ -44,7 +54,14 @@ class LINTAVO_API GEOM2_Polygon {
   void SetWert1(int i, double wert);
   void SetWert2(int i, double wert);
   /// Ends of edge i; false, outputs untouched, for a bad index.
-  bool GetKante(int i, XY& a, XY& b) const;
+  bool GetKante(int i, XY& a, XY& b) const {
+    if (!IsIndex(i)) return false;
+    const GEOM2_Eckpunkt& anfang = GetEckpunkt(i);
+    const GEOM2_Eckpunkt& ende = GetEckpunkt(Naechster(i));
+    a = {anfang.x, anfang.y};
+    b = {ende.x, ende.y};
+    return true;
+  }
   bool GetKante(int i, GEOM2_Punkt& a, GEOM2_Punkt& b) const;
   /// 0.0 for a bad index.
   double GetKantenLaenge(int i) const;
@@ -150,6 +167,8 @@ class LINTAVO_API GEOM2_Polygon {
   bool IsIndex(int i) const { return 0 <= i && i < GetAnzahl(); }
   int Naechster(int i) const { return i + 1 < GetAnzahl() ? i + 1 : 0; }
   bool IsStrahlInnen(const XY& p, double tol) const;
+  /// Takes over other vertices, which must not be this polygon's own.
+  void SetEcken(std::span<const GEOM2_Eckpunkt> ecken);
 
   int status_ = 0;
   std::vector<GEOM2_Eckpunkt> ecken_;

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <vector>
+#include <span>
 
 #include "lintavo/geom/GEOM2_Polygon.h"
 #include "lintavo/geom/Streckenteilung_intern.h"
@@ -12,11 +12,13 @@
 namespace {
 
 using lintavo::kNullLaenge;
+using lintavo::Liste;
+using lintavo::Streckenstueck;
 
 /// The longest stretch inside, the first of equals; null when nothing is inside.
-const lintavo::Streckenstueck* LaengstesInnen(const std::vector<lintavo::Streckenstueck>& stuecke) {
-  const lintavo::Streckenstueck* laengstes = nullptr;
-  for (const lintavo::Streckenstueck& stueck : stuecke) {
+const Streckenstueck* LaengstesInnen(std::span<const Streckenstueck> stuecke) {
+  const Streckenstueck* laengstes = nullptr;
+  for (const Streckenstueck& stueck : stuecke) {
     if (!stueck.innen) continue;
     if (laengstes == nullptr ||
         stueck.bis - stueck.von > laengstes->bis - laengstes->von + kNullLaenge) {
@@ -30,9 +32,12 @@ const lintavo::Streckenstueck* LaengstesInnen(const std::vector<lintavo::Strecke
 /// inside on the left of every edge.
 class Achssicht {
  public:
-  Achssicht(const GEOM2_Polygon& polygon, const XY& start, const XY& richtung) {
-    for (int i = 0; i < polygon.GetAnzahl(); ++i) {
-      const XY p = lintavo::Differenz(lintavo::Ort(polygon.GetEckpunkt(i)), start);
+  Achssicht(const GEOM2_Polygon& polygon, const XY& start, const XY& richtung,
+            lintavo::Speicher speicher)
+      : ecken_(speicher) {
+    ecken_.reserve(polygon.GetEcken().size());
+    for (const GEOM2_Eckpunkt& ecke : polygon.GetEcken()) {
+      const XY p = lintavo::Differenz(lintavo::Ort(ecke), start);
       ecken_.push_back({lintavo::Skalarprodukt(richtung, p), lintavo::Kreuzprodukt(richtung, p)});
     }
     if (polygon.GetFlaeche() < 0.0) std::reverse(ecken_.begin(), ecken_.end());
@@ -102,7 +107,7 @@ class Achssicht {
     return std::isfinite(naechster);
   }
 
-  std::vector<XY> ecken_;
+  Liste<XY> ecken_;
 };
 
 /// Cuts that would cross within d of the axis are leaned back until neither takes more
@@ -123,9 +128,10 @@ void WinkelSetzen(double tangens, double& winkel) {
 }  // namespace
 
 bool GEOM2_Polygon::StreckeClippen(XY& p1, XY& p2) const {
-  const std::vector<lintavo::Streckenstueck> stuecke =
-      lintavo::StreckeTeilen(p1, p2, *this, kNullLaenge);
-  const lintavo::Streckenstueck* innen = LaengstesInnen(stuecke);
+  lintavo::Arbeitsspeicher speicher;
+  const Liste<Streckenstueck> stuecke =
+      lintavo::StreckeTeilen(p1, p2, *this, kNullLaenge, &speicher);
+  const Streckenstueck* innen = LaengstesInnen(stuecke);
   if (innen == nullptr || stuecke.size() == 1) return false;
   const XY a = p1;
   const XY b = p2;
@@ -139,11 +145,12 @@ bool GEOM2_Polygon::AchseClippen(GEOM2_Achse& achse, double d) const {
   const double phi = achse.dWinkel * lintavo::kRadiantJeGrad;
   const XY richtung{std::cos(phi), std::sin(phi)};
   const XY ende = lintavo::Summe(achse.Start, lintavo::Mal(richtung, achse.dLaenge));
-  std::vector<lintavo::Streckenstueck> stuecke;
+  lintavo::Arbeitsspeicher speicher;
+  Liste<Streckenstueck> stuecke(&speicher);
   if (achse.dLaenge >= kNullLaenge) {
-    stuecke = lintavo::StreckeTeilen(achse.Start, ende, *this, kNullLaenge);
+    stuecke = lintavo::StreckeTeilen(achse.Start, ende, *this, kNullLaenge, &speicher);
   }
-  const lintavo::Streckenstueck* innen = LaengstesInnen(stuecke);
+  const Streckenstueck* innen = LaengstesInnen(stuecke);
   if (innen == nullptr || innen->bis - innen->von < kNullLaenge) {
     achse.dLaenge = 0.0;
     return false;
@@ -159,7 +166,7 @@ bool GEOM2_Polygon::AchseClippen(GEOM2_Achse& achse, double d) const {
   if (!ganzerAnfang) achse.Start = lintavo::Summe(achse.Start, lintavo::Mal(richtung, von));
 
   const double breite = std::isfinite(d) ? std::fabs(d) : 0.0;
-  const Achssicht sicht(*this, achse.Start, richtung);
+  const Achssicht sicht(*this, achse.Start, richtung, &speicher);
   double anfang = std::tan(achse.dWinkelAnfang * lintavo::kRadiantJeGrad);
   double schluss = std::tan(achse.dWinkelEnde * lintavo::kRadiantJeGrad);
   const bool amAnfang = sicht.Schnitttangens(0.0, breite, -1, anfang);

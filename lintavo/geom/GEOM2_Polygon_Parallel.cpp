@@ -1,10 +1,11 @@
-// The polygon's offset and clean-up.
+// The polygon's offset.
 #include <algorithm>
 #include <cmath>
 #include <optional>
 #include <utility>
 #include <vector>
 
+#include "lintavo/geom/Eckenring_intern.h"
 #include "lintavo/geom/Flaechenrechnung_intern.h"
 #include "lintavo/geom/GEOM2_Polygon.h"
 #include "lintavo/geom/Geraden.h"
@@ -15,39 +16,35 @@
 
 namespace {
 
+using lintavo::Eckenring;
 using lintavo::kNullLaenge;
-
-/// A vertex of the result and the source vertex whose side starts there.
-struct Ecke {
-  XY ort;
-  int quelle = 0;
-};
-using Ecken = std::vector<Ecke>;
-
-std::vector<XY> Orte(const Ecken& ecken) {
-  std::vector<XY> orte;
-  orte.reserve(ecken.size());
-  for (const Ecke& ecke : ecken) orte.push_back(ecke.ort);
-  return orte;
-}
+using lintavo::Liste;
+using lintavo::Ringecke;
+using lintavo::Speicher;
 
 bool IstFlach(const XY& a, const XY& b) {
   return std::fabs(b.y - a.y) <= std::fabs(b.x - a.x);
 }
 
+/// How far an edge moves when it is shifted by d to its right; nothing without length.
+std::optional<XY> Versatz(const XY& a, const XY& b, double d) {
+  const XY weg = lintavo::Differenz(b, a);
+  const double laenge = lintavo::Betrag(weg);
+  if (laenge < kNullLaenge) return std::nullopt;
+  return XY{d * (weg.y / laenge), d * (-weg.x / laenge)};
+}
+
 /// The corner between the incoming edge davor->ecke and the outgoing edge ecke->danach,
-/// shifted by their distances. The intersection routine is given the corner as origin,
-/// the flatter line first and each line from its corner end: so the slopes of steep
-/// sides cost no digits, and distances of 0 give back the very corner.
-bool EckeVerschieben(const XY& davor, const XY& ecke, const XY& danach, double dEin, double dAus,
-                     XY& neu) {
-  const XY ein = lintavo::Differenz(davor, ecke);
-  const XY aus = lintavo::Differenz(danach, ecke);
-  XY e1, e2, a1, a2;
-  if (StreckeParallel(ein.x, ein.y, 0.0, 0.0, dEin, kNullLaenge, e2.x, e2.y, e1.x, e1.y) != 1 ||
-      StreckeParallel(0.0, 0.0, aus.x, aus.y, dAus, kNullLaenge, a1.x, a1.y, a2.x, a2.y) != 1) {
-    return false;
-  }
+/// each shifted. The intersection routine is given the corner as origin, the flatter line
+/// first and each line from its corner end: so the slopes of steep sides cost no digits,
+/// and edges that do not move give back the very corner.
+bool EckeVerschieben(const XY& davor, const XY& ecke, const XY& danach,
+                     const std::optional<XY>& vEin, const std::optional<XY>& vAus, XY& neu) {
+  if (!vEin || !vAus) return false;
+  const XY e1 = lintavo::Summe({}, *vEin);
+  const XY e2 = lintavo::Summe(lintavo::Differenz(davor, ecke), *vEin);
+  const XY a1 = lintavo::Summe({}, *vAus);
+  const XY a2 = lintavo::Summe(lintavo::Differenz(danach, ecke), *vAus);
   XY p;
   const int schnitt = IstFlach(e1, e2) ? SchnittpunktGeraden(e1, e2, a1, a2, kNullLaenge, p)
                                        : SchnittpunktGeraden(a1, a2, e1, e2, kNullLaenge, p);
@@ -57,21 +54,27 @@ bool EckeVerschieben(const XY& davor, const XY& ecke, const XY& danach, double d
 
 /// Every corner of the offset; those of parallel neighbours and of edges without length
 /// are left out.
-Ecken EckenVerschieben(const GEOM2_Polygon& polygon, const double* abstaende) {
-  Ecken ecken;
-  const int n = polygon.GetAnzahl();
-  ecken.reserve(static_cast<std::size_t>(n));
-  for (int i = 0; i < n; ++i) {
-    const int davor = i == 0 ? n - 1 : i - 1;
-    const int danach = i + 1 == n ? 0 : i + 1;
+Eckenring EckenVerschieben(const GEOM2_Polygon& polygon, const double* abstaende,
+                           Speicher speicher) {
+  Eckenring ring(speicher);
+  const std::span<const GEOM2_Eckpunkt> ecken = polygon.GetEcken();
+  if (ecken.empty()) return ring;
+  ring.reserve(ecken.size());
+  XY davor = lintavo::Ort(ecken.back());
+  XY ecke = lintavo::Ort(ecken.front());
+  std::optional<XY> vEin = Versatz(davor, ecke, abstaende[ecken.size() - 1]);
+  for (std::size_t i = 0; i < ecken.size(); ++i) {
+    const XY danach = lintavo::Ort(ecken[i + 1 == ecken.size() ? 0 : i + 1]);
+    const std::optional<XY> vAus = Versatz(ecke, danach, abstaende[i]);
     XY neu;
-    if (EckeVerschieben(
-            lintavo::Ort(polygon.GetEckpunkt(davor)), lintavo::Ort(polygon.GetEckpunkt(i)),
-            lintavo::Ort(polygon.GetEckpunkt(danach)), abstaende[davor], abstaende[i], neu)) {
-      ecken.push_back({neu, i});
+    if (EckeVerschieben(davor, ecke, danach, vEin, vAus, neu)) {
+      ring.push_back({neu, static_cast<int>(i)});
     }
+    davor = ecke;
+    ecke = danach;
+    vEin = vAus;
   }
-  return ecken;
+  return ring;
 }
 
 lintavo::Gerade SeiteVerschoben(const GEOM2_Polygon& polygon, int i, double d) {
@@ -83,88 +86,37 @@ lintavo::Gerade SeiteVerschoben(const GEOM2_Polygon& polygon, int i, double d) {
   return {a, richtung};
 }
 
+/// The way of every side from the source of its corner to that of the next one.
+Liste<XY> Wege(const GEOM2_Polygon& polygon, const Eckenring& ring) {
+  Liste<XY> wege(ring.get_allocator());
+  wege.reserve(ring.size());
+  for (std::size_t k = 0; k < ring.size(); ++k) {
+    const Ringecke& danach = ring[k + 1 == ring.size() ? 0 : k + 1];
+    wege.push_back(lintavo::Differenz(lintavo::Ort(polygon.GetEckpunkt(danach.quelle)),
+                                      lintavo::Ort(polygon.GetEckpunkt(ring[k].quelle))));
+  }
+  return wege;
+}
+
 /// The sides between the corners that there are. Where corners were left out a side
 /// takes in several edges: it starts on the first one's line and ends on the last one's.
-std::vector<lintavo::Kettenseite> Seiten(const GEOM2_Polygon& polygon, const double* abstaende,
-                                         const Ecken& ecken) {
-  std::vector<lintavo::Kettenseite> seiten;
-  seiten.reserve(ecken.size());
+Liste<lintavo::Kettenseite> Seiten(const GEOM2_Polygon& polygon, const double* abstaende,
+                                   const Eckenring& ring, const Liste<XY>& wege) {
+  Liste<lintavo::Kettenseite> seiten(ring.get_allocator());
+  seiten.reserve(ring.size());
   const int n = polygon.GetAnzahl();
-  for (std::size_t k = 0; k < ecken.size(); ++k) {
-    const int erste = ecken[k].quelle;
-    const int ende = ecken[k + 1 == ecken.size() ? 0 : k + 1].quelle;
+  for (std::size_t k = 0; k < ring.size(); ++k) {
+    const int erste = ring[k].quelle;
+    const int ende = ring[k + 1 == ring.size() ? 0 : k + 1].quelle;
     const int letzte = ende == 0 ? n - 1 : ende - 1;
     const lintavo::Gerade vorn = SeiteVerschoben(polygon, erste, abstaende[erste]);
     if (letzte == erste) {
       seiten.emplace_back(vorn);
-      continue;
+    } else {
+      seiten.emplace_back(vorn, SeiteVerschoben(polygon, letzte, abstaende[letzte]), wege[k]);
     }
-    const XY weg = lintavo::Differenz(lintavo::Ort(polygon.GetEckpunkt(ende)),
-                                      lintavo::Ort(polygon.GetEckpunkt(erste)));
-    seiten.emplace_back(vorn, SeiteVerschoben(polygon, letzte, abstaende[letzte]), weg);
   }
   return seiten;
-}
-
-/// Puts the ring in counter-clockwise order, or back into clockwise order: each vertex
-/// keeps standing for the side that starts at it.
-void SeitenUmkehren(Ecken& ecken) {
-  if (ecken.empty()) return;
-  std::reverse(ecken.begin(), ecken.end());
-  const int erste = ecken.front().quelle;
-  for (std::size_t k = 0; k + 1 < ecken.size(); ++k) ecken[k].quelle = ecken[k + 1].quelle;
-  ecken.back().quelle = erste;
-}
-
-/// The pieces that a calculation of areas left.
-std::vector<Ecken> Stuecke(const std::vector<lintavo::Ergebnisring>& ringe) {
-  std::vector<Ecken> stuecke;
-  for (const lintavo::Ergebnisring& ring : ringe) {
-    Ecken stueck;
-    for (const lintavo::Ergebnisecke& ecke : ring) {
-      stueck.push_back({ecke.ort, static_cast<int>(ecke.kante)});
-    }
-    if (stueck.size() >= 3) stuecke.push_back(std::move(stueck));
-  }
-  return stuecke;
-}
-
-bool IstFrueher(const Ecke& a, const Ecke& b) {
-  return a.quelle < b.quelle;
-}
-
-/// The piece with the largest area, of equals the one with the earliest source, in the
-/// orientation asked for and starting at its own earliest source.
-Ecken Groesstes(const std::vector<Ecken>& stuecke, int umlauf) {
-  Ecken groesstes;
-  double flaeche = 0.0;
-  int erste = 0;
-  for (const Ecken& stueck : stuecke) {
-    const double neu = lintavo::Ringflaeche(Orte(stueck));
-    const int neueErste = std::min_element(stueck.begin(), stueck.end(), IstFrueher)->quelle;
-    const bool gleich = std::fabs(neu - flaeche) <= lintavo::kGleicheFlaeche * flaeche;
-    if (groesstes.empty() || (gleich ? neueErste < erste : neu > flaeche)) {
-      groesstes = stueck;
-      flaeche = neu;
-      erste = neueErste;
-    }
-  }
-  if (umlauf < 0) SeitenUmkehren(groesstes);
-  std::rotate(groesstes.begin(), std::min_element(groesstes.begin(), groesstes.end(), IstFrueher),
-              groesstes.end());
-  return groesstes;
-}
-
-lintavo::Flaechenring AlsFlaechenring(const Ecken& ecken) {
-  lintavo::Flaechenring ring;
-  for (const Ecke& ecke : ecken) ring.push_back({ecke.ort, static_cast<std::size_t>(ecke.quelle)});
-  return ring;
-}
-
-/// The pieces that a counter-clockwise ring leaves once its loops are cut off.
-std::vector<Ecken> SchleifenAbschneiden(const Ecken& ecken) {
-  const auto ringe = lintavo::FlaecheVereinigen({AlsFlaechenring(ecken)}, kNullLaenge);
-  return ringe.has_value() ? Stuecke(*ringe) : std::vector<Ecken>{};
 }
 
 /// Whether p lies in the strip that edge ab, moved to its left by tiefe, has swept.
@@ -180,8 +132,8 @@ bool LiegtImStreifen(const XY& p, const XY& a, const XY& b, double tiefe) {
 
 /// A piece that turned inside out twice winds the right way again, but it lies where the
 /// sides have swept over it.
-bool IstUeberstrichen(const Ecken& stueck, const GEOM2_Polygon& polygon, const double* abstaende,
-                      int umlauf) {
+bool IstUeberstrichen(const Eckenring& stueck, const GEOM2_Polygon& polygon,
+                      const double* abstaende, int umlauf) {
   for (int i = 0; i < polygon.GetAnzahl(); ++i) {
     const double tiefe = -umlauf * abstaende[i];
     if (!(tiefe > 0.0)) continue;
@@ -189,22 +141,17 @@ bool IstUeberstrichen(const Ecken& stueck, const GEOM2_Polygon& polygon, const d
     XY b;
     polygon.GetKante(i, a, b);
     if (umlauf < 0) std::swap(a, b);
-    for (const Ecke& ecke : stueck) {
+    for (const Ringecke& ecke : stueck) {
       if (LiegtImStreifen(ecke.ort, a, b, tiefe)) return true;
     }
   }
   return false;
 }
 
-bool SindBrauchbar(const Ecken& ecken) {
-  return std::all_of(ecken.begin(), ecken.end(),
-                     [](const Ecke& ecke) { return lintavo::IstBrauchbar(ecke.ort); });
-}
-
 /// The strip that edge i sweeps when a counter-clockwise ring is offset by d, to the
 /// right where d is positive. Its ends are square, but reach to the offset's corner where
 /// the corner opens towards the strip.
-lintavo::Flaechenring Streifen(const std::vector<XY>& ring, std::size_t i, double d) {
+lintavo::Flaechenring Streifen(const Liste<XY>& ring, std::size_t i, double d) {
   const std::size_t n = ring.size();
   const std::size_t j = (i + 1) % n;
   const XY& a = ring[i];
@@ -218,8 +165,9 @@ lintavo::Flaechenring Streifen(const std::vector<XY>& ring, std::size_t i, doubl
   };
   const XY& davor = ring[(i + n - 1) % n];
   const XY& danach = ring[(j + 1) % n];
-  if (oeffnet(davor, a, b)) EckeVerschieben(davor, a, b, d, d, a2);
-  if (oeffnet(a, b, danach)) EckeVerschieben(a, b, danach, d, d, b2);
+  const std::optional<XY> v = Versatz(a, b, d);
+  if (oeffnet(davor, a, b)) EckeVerschieben(davor, a, b, Versatz(davor, a, d), v, a2);
+  if (oeffnet(a, b, danach)) EckeVerschieben(a, b, danach, v, Versatz(b, danach, d), b2);
   if (d > 0.0) return {{a, i}, {a2, i}, {b2, i}, {b, i}};
   return {{a, i}, {b, i}, {b2, i}, {a2, i}};
 }
@@ -227,14 +175,12 @@ lintavo::Flaechenring Streifen(const std::vector<XY>& ring, std::size_t i, doubl
 /// The offset by one distance for all edges as the outline with the strips of its edges
 /// added or taken away: right for every outline, however many sides vanish and wherever
 /// it falls to pieces. Nothing when the strips are too many to be reckoned with.
-std::optional<std::vector<Ecken>> MitStreifen(const GEOM2_Polygon& polygon, double d, int umlauf) {
-  Ecken ecken;
-  for (int i = 0; i < polygon.GetAnzahl(); ++i) {
-    ecken.push_back({lintavo::Ort(polygon.GetEckpunkt(i)), i});
-  }
+std::optional<std::vector<Eckenring>> MitStreifen(const GEOM2_Polygon& polygon, double d,
+                                                  int umlauf) {
+  Eckenring ecken = lintavo::EckenVon(polygon);
   if (umlauf < 0) SeitenUmkehren(ecken);
-  const std::vector<XY> orte = Orte(ecken);
-  std::vector<lintavo::Flaechenring> ringe{AlsFlaechenring(ecken)};
+  const Liste<XY> orte = Orte(ecken);
+  std::vector<lintavo::Flaechenring> ringe{lintavo::AlsFlaechenring(ecken)};
   for (std::size_t i = 0; i < orte.size(); ++i) {
     lintavo::Flaechenring streifen = Streifen(orte, i, umlauf * d);
     for (lintavo::Flaechenecke& ecke : streifen) {
@@ -245,16 +191,16 @@ std::optional<std::vector<Ecken>> MitStreifen(const GEOM2_Polygon& polygon, doub
   const auto gefunden = umlauf * d > 0.0 ? lintavo::FlaecheVereinigen(ringe, kNullLaenge)
                                          : lintavo::FlaecheAbziehen(ringe, kNullLaenge);
   if (!gefunden.has_value()) return std::nullopt;
-  return Stuecke(*gefunden);
+  return lintavo::Stuecke(*gefunden);
 }
 
 /// Cuts off the loops of an offset by several distances and leaves out the pieces that
 /// are turned inside out twice.
-std::vector<Ecken> OhneSchleifen(Ecken ecken, const GEOM2_Polygon& polygon, const double* abstaende,
-                                 int umlauf) {
-  if (umlauf < 0) SeitenUmkehren(ecken);
-  std::vector<Ecken> stuecke = SchleifenAbschneiden(ecken);
-  std::erase_if(stuecke, [&](const Ecken& stueck) {
+std::vector<Eckenring> OhneSchleifen(Eckenring ring, const GEOM2_Polygon& polygon,
+                                     const double* abstaende, int umlauf) {
+  if (umlauf < 0) SeitenUmkehren(ring);
+  std::vector<Eckenring> stuecke = lintavo::SchleifenAbschneiden(ring);
+  std::erase_if(stuecke, [&](const Eckenring& stueck) {
     return IstUeberstrichen(stueck, polygon, abstaende, umlauf);
   });
   return stuecke;
@@ -266,79 +212,57 @@ bool IstGleichmaessig(const double* abstaende, int anzahl) {
   });
 }
 
-/// The vertices of a ring that it cannot do without.
-Ecken Ausgeduennt(const Ecken& ecken, double tol) {
-  const std::vector<double> tolLinie(ecken.size(), tol);
-  Ecken noetig;
-  for (const std::size_t i : lintavo::NoetigeEcken(Orte(ecken), tolLinie, tol)) {
-    noetig.push_back(ecken[i]);
+/// What the corners of an offset leave once the sides that were turned round are dropped.
+struct Rest {
+  Eckenring ring;
+  bool konvex = false;   ///< the outline turns one way only, once round
+  bool gedreht = false;  ///< turned sides remain: the ring has loops
+};
+
+/// Drops the sides that the offset turned round.
+Rest OhneGedrehte(const Eckenring& roh, const GEOM2_Polygon& polygon, const double* abstaende,
+                  int umlauf) {
+  const Liste<XY> orte = Orte(roh);
+  const Liste<XY> wege = Wege(polygon, roh);
+  Rest rest{Eckenring(roh, roh.get_allocator()), lintavo::SindKonvex(wege, umlauf)};
+  // Usually none is.
+  if (!lintavo::HatGedrehteSeite(orte, wege)) return rest;
+  const lintavo::GeschlosseneKette kette = lintavo::VerschwundeneSeitenLoeschen(
+      Seiten(polygon, abstaende, roh, wege), orte, umlauf, rest.konvex);
+  rest.gedreht = kette.gedreht;
+  rest.ring.clear();
+  for (const lintavo::Kettenecke& ecke : kette.ecken) {
+    rest.ring.push_back({ecke.punkt, roh[ecke.seite].quelle});
   }
-  return noetig;
+  return rest;
 }
 
 /// Drops the sides that the offset turned round, and cuts off what loops remain.
-Ecken Entschleifen(const Ecken& roh, const GEOM2_Polygon& polygon, const double* abstaende) {
+Eckenring Entschleifen(const Eckenring& roh, const GEOM2_Polygon& polygon,
+                       const double* abstaende) {
   if (roh.size() < 3) return {};
   const int umlauf = polygon.GetFlaeche() < 0.0 ? -1 : 1;
-  const lintavo::GeschlosseneKette kette =
-      lintavo::VerschwundeneSeitenLoeschen(Seiten(polygon, abstaende, roh), Orte(roh), umlauf);
-  Ecken ecken;
-  ecken.reserve(kette.ecken.size());
-  for (const lintavo::Kettenecke& ecke : kette.ecken) {
-    ecken.push_back({ecke.punkt, roh[ecke.seite].quelle});
-  }
-  if (!SindBrauchbar(ecken)) return {};
-  ecken = Ausgeduennt(ecken, kNullLaenge);
-  if (kette.konvex && ecken.empty()) return {};
-  const bool heil = !kette.gedreht && umlauf * lintavo::Ringflaeche(Orte(ecken)) > 0.0 &&
-                    (kette.konvex || lintavo::IstEinfach(Orte(ecken)));
-  if (heil && (kette.konvex || kette.ecken.size() == roh.size())) return ecken;
+  auto [ring, konvex, gedreht] = OhneGedrehte(roh, polygon, abstaende, umlauf);
+  if (!SindBrauchbar(ring)) return {};
+  const bool vollzaehlig = ring.size() == roh.size();
+  Ausduennen(ring, kNullLaenge);
+  if (konvex && ring.empty()) return {};
+  const Liste<XY> orte = Orte(ring);
+  const bool heil = !gedreht && umlauf * lintavo::Ringflaeche(orte) > 0.0 &&
+                    (konvex || lintavo::IstEinfach(orte));
+  if (heil && (konvex || vollzaehlig)) return std::move(ring);
 
-  std::optional<std::vector<Ecken>> stuecke;
+  std::optional<std::vector<Eckenring>> stuecke;
   if (IstGleichmaessig(abstaende, polygon.GetAnzahl())) {
     stuecke = MitStreifen(polygon, abstaende[0], umlauf);
-  } else if (heil && !IstUeberstrichen(ecken, polygon, abstaende, umlauf)) {
-    return ecken;
+  } else if (heil && !IstUeberstrichen(ring, polygon, abstaende, umlauf)) {
+    return std::move(ring);
   }
-  if (!stuecke.has_value()) stuecke = OhneSchleifen(ecken, polygon, abstaende, umlauf);
-  return Groesstes(*stuecke, umlauf);
-}
-
-GEOM2_Polygon AlsPolygon(const Ecken& ecken, const GEOM2_Polygon& quelle) {
-  GEOM2_Polygon polygon;
-  for (const Ecke& ecke : ecken) {
-    const GEOM2_Eckpunkt& alt = quelle.GetEckpunkt(ecke.quelle);
-    polygon.AddPunkt(ecke.ort.x, ecke.ort.y, 0.0, alt.dWert2, alt.Attribut);
-  }
-  return polygon;
-}
-
-/// Cuts off loops and folds, then thins out. Rings without loops, the usual ones, are
-/// recognised once they are thinned out.
-Ecken Bereinigt(const Ecken& ecken, double tol, int umlauf) {
-  if (!SindBrauchbar(ecken)) return {};
-  Ecken duenn = Ausgeduennt(ecken, tol);
-  if (duenn.empty() || lintavo::IstEinfach(Orte(duenn))) return duenn;
-  Ecken ring = ecken;
-  if (umlauf < 0) SeitenUmkehren(ring);
-  return Ausgeduennt(Groesstes(SchleifenAbschneiden(ring), umlauf), tol);
+  if (!stuecke.has_value()) stuecke = OhneSchleifen(ring, polygon, abstaende, umlauf);
+  return lintavo::Groesstes(*stuecke, umlauf);
 }
 
 }  // namespace
-
-bool GEOM2_Polygon::Bereinigen(double tol) {
-  return Bereinigen(tol, true);
-}
-
-bool GEOM2_Polygon::Bereinigen(double tol, bool schleifen) {
-  if (GetAnzahl() < 2) return false;
-  Ecken ecken;
-  for (int i = 0; i < GetAnzahl(); ++i) ecken.push_back({lintavo::Ort(GetEckpunkt(i)), i});
-  ecken = schleifen ? Bereinigt(ecken, tol, GetFlaeche() < 0.0 ? -1 : 1) : Ausgeduennt(ecken, tol);
-  GEOM2_Polygon neu = AlsPolygon(ecken, *this);
-  *this = std::move(neu);
-  return GetAnzahl() >= 3;
-}
 
 void GEOM2_Polygon::ParallelPolygon(double d, GEOM2_Polygon& ergebnis) const {
   const std::vector<double> abstaende(ecken_.size(), d);
@@ -348,12 +272,15 @@ void GEOM2_Polygon::ParallelPolygon(double d, GEOM2_Polygon& ergebnis) const {
 
 bool GEOM2_Polygon::ParallelPolygon(const double* abstaende, GEOM2_Polygon& ergebnis,
                                     bool bereinigen) const {
-  Ecken ecken = EckenVerschieben(*this, abstaende);
-  if (bereinigen) ecken = Entschleifen(ecken, *this, abstaende);
-  GEOM2_Polygon neu = AlsPolygon(ecken, *this);
-  if (bereinigen) neu.Bereinigen(kNullLaenge, false);
+  lintavo::Arbeitsspeicher speicher;
+  Eckenring ring = EckenVerschieben(*this, abstaende, &speicher);
+  if (bereinigen) {
+    ring = Entschleifen(ring, *this, abstaende);
+    Ausduennen(ring, kNullLaenge);
+  }
+  const Liste<GEOM2_Eckpunkt> ecken = AlsEckpunkte(ring, *this);
   ergebnis.Clear();
-  if (neu.GetAnzahl() < 3) return false;
-  ergebnis = std::move(neu);
+  if (ecken.size() < 3) return false;
+  ergebnis.SetEcken(ecken);
   return true;
 }

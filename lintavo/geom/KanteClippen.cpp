@@ -20,7 +20,8 @@ bool ClippKante(const GEOM2_Polygon& polygon, CMStrecke& kante) {
     return true;
   }
   // Nothing cut away: wholly inside or wholly outside.
-  const auto stuecke = lintavo::StreckeTeilen(a, b, polygon, kNullLaenge);
+  lintavo::Arbeitsspeicher speicher;
+  const auto stuecke = lintavo::StreckeTeilen(a, b, polygon, kNullLaenge, &speicher);
   return !stuecke.empty() && stuecke.front().innen;
 }
 

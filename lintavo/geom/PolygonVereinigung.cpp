@@ -22,22 +22,34 @@ constexpr double kSchritteJeToleranz = 64.0;
 /// The shapes taken apart: all vertices in a row, and per shape its counter-clockwise
 /// ring and, beside it, the vertex at which each ring edge starts as handed in.
 struct Formen {
-  std::vector<Formecke> ecken;
-  std::vector<const GEOM2_Eckpunkt*> quellen;
-  std::vector<std::vector<std::size_t>> ringe;
-  std::vector<std::vector<std::size_t>> kanten;
+  explicit Formen(Speicher speicher)
+      : ecken(speicher), quellen(speicher), ringe(speicher), kanten(speicher) {}
+
+  Liste<Formecke> ecken;
+  Liste<const GEOM2_Eckpunkt*> quellen;
+  Liste<Liste<std::size_t>> ringe;
+  Liste<Liste<std::size_t>> kanten;
 };
+
+/// Makes room for all shapes.
+void Reservieren(const std::vector<GEOM2_Polygon>& polygone, Formen& formen) {
+  std::size_t ecken = 0;
+  for (const GEOM2_Polygon& polygon : polygone) ecken += polygon.GetEcken().size();
+  formen.ecken.reserve(ecken);
+  formen.quellen.reserve(ecken);
+  formen.ringe.reserve(polygone.size());
+  formen.kanten.reserve(polygone.size());
+}
 
 void Anhaengen(const GEOM2_Polygon& polygon, Formen& formen) {
   const std::size_t n = static_cast<std::size_t>(polygon.GetAnzahl());
   const std::size_t erste = formen.ecken.size();
-  for (int i = 0; i < polygon.GetAnzahl(); ++i) {
-    const GEOM2_Eckpunkt& ecke = polygon.GetEckpunkt(i);
+  for (const GEOM2_Eckpunkt& ecke : polygon.GetEcken()) {
     formen.ecken.push_back({Ort(ecke), formen.ringe.size()});
     formen.quellen.push_back(&ecke);
   }
-  std::vector<std::size_t> ring(n);
-  std::vector<std::size_t> kanten(n);
+  Liste<std::size_t> ring(n, formen.ringe.get_allocator());
+  Liste<std::size_t> kanten(n, formen.kanten.get_allocator());
   const bool rueckwaerts = polygon.GetFlaeche() < 0.0;
   for (std::size_t k = 0; k < n; ++k) {
     ring[k] = erste + (rueckwaerts ? (n - k) % n : k);
@@ -61,7 +73,7 @@ void BoxFuellen(const std::vector<GEOM2_Polygon>& polygone, double box[4]) {
   }
 }
 
-bool SindBrauchbar(const std::vector<Formecke>& ecken) {
+bool SindBrauchbar(const Liste<Formecke>& ecken) {
   return std::all_of(ecken.begin(), ecken.end(),
                      [](const Formecke& ecke) { return IstBrauchbar(ecke.ort); });
 }
@@ -70,8 +82,9 @@ bool SindBrauchbar(const std::vector<Formecke>& ecken) {
 class Vereinigung {
  public:
   Vereinigung(const Formen& formen, const Fangergebnis& fang, double tol)
-      : formen_(formen), fang_(fang), tol_(tol) {
-    for (const std::vector<Fangecke>& ring : fang.ringe) {
+      : formen_(formen), fang_(fang), tol_(tol), ecken_(fang.ringe.get_allocator()) {
+    ecken_.reserve(2 * formen.ecken.size());
+    for (const Liste<Fangecke>& ring : fang.ringe) {
       ecken_.insert(ecken_.end(), ring.begin(), ring.end());
     }
   }
@@ -85,17 +98,17 @@ class Vereinigung {
   }
 
  private:
-  std::vector<XY> Plaetze() const {
-    std::vector<XY> plaetze;
+  Liste<XY> Plaetze() const {
+    Liste<XY> plaetze(ecken_.get_allocator());
     plaetze.reserve(formen_.ecken.size());
     for (const Formecke& ecke : formen_.ecken) plaetze.push_back(ecke.ort);
     return plaetze;
   }
 
-  std::vector<Umrisskante> Kanten() const {
-    std::vector<Umrisskante> kanten;
+  Liste<Umrisskante> Kanten() const {
+    Liste<Umrisskante> kanten(ecken_.get_allocator());
     kanten.reserve(ecken_.size());
-    for (const std::vector<Fangecke>& ring : fang_.ringe) {
+    for (const Liste<Fangecke>& ring : fang_.ringe) {
       for (std::size_t k = 0; k < ring.size(); ++k) {
         const Fangecke& danach = ring[k + 1 == ring.size() ? 0 : k + 1];
         kanten.push_back({ring[k].ort, danach.ort, kanten.size(), ring[k].kante,
@@ -107,7 +120,7 @@ class Vereinigung {
 
   std::vector<Flaechenring> Ringe() const {
     std::vector<Flaechenring> ringe;
-    for (const std::vector<Fangecke>& gefangen : fang_.ringe) {
+    for (const Liste<Fangecke>& gefangen : fang_.ringe) {
       if (gefangen.empty()) continue;
       Flaechenring ring;
       ring.reserve(gefangen.size());
@@ -146,8 +159,8 @@ class Vereinigung {
     return groesster != nullptr ? *groesster : Ergebnisring{};
   }
 
-  static std::vector<XY> Orte(const Ergebnisring& ring) {
-    std::vector<XY> orte;
+  Liste<XY> Orte(const Ergebnisring& ring) const {
+    Liste<XY> orte(ecken_.get_allocator());
     orte.reserve(ring.size());
     for (const Ergebnisecke& ecke : ring) orte.push_back(ecke.ort);
     return orte;
@@ -161,15 +174,17 @@ class Vereinigung {
   }
 
   GEOM2_Polygon AlsPolygon(const Ergebnisring& ring) const {
-    std::vector<double> tolLinie;
+    Liste<double> tolLinie(ecken_.get_allocator());
     tolLinie.reserve(ring.size());
     for (const Ergebnisecke& ecke : ring) tolLinie.push_back(TolLinie(ecke));
-    std::vector<std::size_t> noetig = NoetigeEcken(Orte(ring), tolLinie, kNullLaenge);
+    Liste<std::size_t> noetig =
+        NoetigeEcken(Orte(ring), tolLinie, kNullLaenge, ecken_.get_allocator());
     const auto erste = std::min_element(
         noetig.begin(), noetig.end(),
         [&](std::size_t i, std::size_t j) { return Platz(ring[i]) < Platz(ring[j]); });
     std::rotate(noetig.begin(), erste, noetig.end());
     GEOM2_Polygon polygon;
+    polygon.Reservieren(static_cast<int>(noetig.size()));
     for (const std::size_t i : noetig) polygon.AddPunkt(Eckpunkt(ring[i]));
     return polygon;
   }
@@ -190,7 +205,7 @@ class Vereinigung {
   const Formen& formen_;
   const Fangergebnis& fang_;
   double tol_;
-  std::vector<Fangecke> ecken_;  // the corners of all rings in a row
+  Liste<Fangecke> ecken_;  // the corners of all rings in a row
 };
 
 }  // namespace
@@ -200,14 +215,17 @@ bool bPolygoneAddieren(const std::vector<GEOM2_Polygon>& polygone, GEOM2_Polygon
                        double tol, double box[4]) {
   using namespace lintavo;
   BoxFuellen(polygone, box);
-  Formen formen;
+  Arbeitsspeicher speicher;
+  Formen formen(&speicher);
+  Reservieren(polygone, formen);
   for (const GEOM2_Polygon& polygon : polygone) {
     if (polygon.GetAnzahl() >= 3) Anhaengen(polygon, formen);
   }
   GEOM2_Polygon ergebnis;
   if (!formen.ringe.empty() && SindBrauchbar(formen.ecken)) {
     const double toleranz = tol >= kNullLaenge ? tol : kNullLaenge;
-    const Fangergebnis fang = FormenFangen(formen.ecken, formen.ringe, formen.kanten, toleranz);
+    const Fangergebnis fang =
+        FormenFangen(formen.ecken, formen.ringe, formen.kanten, toleranz, &speicher);
     ergebnis = Vereinigung(formen, fang, toleranz).Umriss();
   }
   umriss = std::move(ergebnis);

@@ -4,10 +4,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <vector>
+#include <span>
 
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/XY.h"
+#include "lintavo/platform/Arbeitsspeicher_intern.h"
 
 namespace lintavo {
 
@@ -15,7 +16,8 @@ namespace lintavo {
 /// time. All points must be finite.
 class Punktraster {
  public:
-  explicit Punktraster(const std::vector<XY>& punkte) : punkte_(punkte) {
+  Punktraster(std::span<const XY> punkte, Speicher speicher)
+      : punkte_(punkte), beginn_(speicher), inhalt_(speicher) {
     XY max{-kLeereBox, -kLeereBox};
     min_ = {kLeereBox, kLeereBox};
     for (const XY& p : punkte) {
@@ -62,20 +64,20 @@ class Punktraster {
     inhalt_.resize(punkte_.size());
     for (const XY& p : punkte_) ++beginn_[Zeile(p.y) * spalten_ + Spalte(p.x) + 1];
     for (std::size_t z = 1; z < beginn_.size(); ++z) beginn_[z] += beginn_[z - 1];
-    std::vector<std::size_t> frei(beginn_.begin(), beginn_.end() - 1);
+    Liste<std::size_t> frei(beginn_.begin(), beginn_.end() - 1, beginn_.get_allocator());
     for (std::size_t i = 0; i < punkte_.size(); ++i) {
       inhalt_[frei[Zeile(punkte_[i].y) * spalten_ + Spalte(punkte_[i].x)]++] = i;
     }
   }
 
-  const std::vector<XY>& punkte_;
+  std::span<const XY> punkte_;
   XY min_;
   std::size_t spalten_ = 1;
   std::size_t zeilen_ = 1;
   double jeX_ = 0.0;
   double jeY_ = 0.0;
-  std::vector<std::size_t> beginn_;
-  std::vector<std::size_t> inhalt_;
+  Liste<std::size_t> beginn_;
+  Liste<std::size_t> inhalt_;
 };
 
 }  // namespace lintavo

@@ -23,8 +23,9 @@ double AbstandVonGerade(const XY& a, const XY& b, const XY& p) {
 
 class Ausduennung {
  public:
-  Ausduennung(const std::vector<XY>& ring, const std::vector<double>& tolLinie, double tolDeckung)
-      : ring_(ring), tolLinie_(tolLinie), tolDeckung_(tolDeckung), glieder_(ring.size()) {
+  Ausduennung(std::span<const XY> ring, std::span<const double> tolLinie, double tolDeckung,
+              Speicher speicher)
+      : ring_(ring), tolLinie_(tolLinie), tolDeckung_(tolDeckung), glieder_(ring.size(), speicher) {
     for (std::size_t i = 0; i < ring.size(); ++i) {
       glieder_[i].davor = i == 0 ? ring.size() - 1 : i - 1;
       glieder_[i].danach = i + 1 == ring.size() ? 0 : i + 1;
@@ -32,8 +33,8 @@ class Ausduennung {
     anzahl_ = ring.size();
   }
 
-  std::vector<std::size_t> Ausfuehren() {
-    std::vector<std::size_t> offen(ring_.size());
+  Liste<std::size_t> Ausfuehren() {
+    Liste<std::size_t> offen(ring_.size(), glieder_.get_allocator());
     std::iota(offen.rbegin(), offen.rend(), std::size_t{0});
     while (!offen.empty() && anzahl_ >= 3) {
       const std::size_t i = offen.back();
@@ -42,8 +43,9 @@ class Ausduennung {
       offen.push_back(glieder_[i].danach);
       offen.push_back(glieder_[i].davor);
     }
-    std::vector<std::size_t> noetig;
+    Liste<std::size_t> noetig(glieder_.get_allocator());
     if (anzahl_ < 3) return noetig;
+    noetig.reserve(anzahl_);
     for (std::size_t i = 0; i < ring_.size(); ++i) {
       if (glieder_[i].da) noetig.push_back(i);
     }
@@ -111,12 +113,27 @@ class Ausduennung {
     --anzahl_;
   }
 
-  const std::vector<XY>& ring_;
-  const std::vector<double>& tolLinie_;
+  std::span<const XY> ring_;
+  std::span<const double> tolLinie_;
   double tolDeckung_;
-  std::vector<Glied> glieder_;
+  Liste<Glied> glieder_;
   std::size_t anzahl_ = 0;
 };
+
+/// Whether no corner of the ring may go as long as all others are there: so in most rings.
+bool SindAlleNoetig(std::span<const XY> ring, std::span<const double> tolLinie, double tolDeckung) {
+  if (ring.size() < 3) return false;
+  const XY* davor = &ring.back();
+  for (std::size_t i = 0; i < ring.size(); ++i) {
+    const XY& danach = ring[i + 1 == ring.size() ? 0 : i + 1];
+    if (Abstand(ring[i], danach) <= tolDeckung || Abstand(*davor, danach) <= tolDeckung ||
+        AbstandVonGerade(*davor, danach, ring[i]) <= tolLinie[i]) {
+      return false;
+    }
+    davor = &ring[i];
+  }
+  return true;
+}
 
 /// An edge with its extent in x.
 struct Spanne {
@@ -155,35 +172,58 @@ bool KantenBeruehren(const Verbindung& s, const Verbindung& t, double tol) {
          Seite(t.a, t.b, s.a, tol) * Seite(t.a, t.b, s.b, tol) <= 0;
 }
 
-/// Turning one way only and coming round once: a ring like that needs no search.
-bool IstKonvex(const std::vector<XY>& ring) {
+bool DrehtNurEinWeg(std::span<const XY> ring) {
+  const XY* a = &ring[ring.size() - 2];
+  const XY* b = &ring.back();
   int richtung = 0;
-  int wechsel = 0;
-  double letztesDx = 0.0;
-  const std::size_t n = ring.size();
-  for (std::size_t i = 0; i < 2 * n; ++i) {
-    const XY& a = ring[i % n];
-    const XY& b = ring[(i + 1) % n];
-    const int seite = Seite(a, b, ring[(i + 2) % n]);
+  for (const XY& c : ring) {
+    const int seite = Seite(*a, *b, c);
     if (seite == 0 || seite * richtung < 0) return false;
     richtung = seite;
-    const double dx = b.x - a.x;
-    if (i >= n && dx * letztesDx < 0.0) ++wechsel;
-    if (dx < 0.0 || dx > 0.0) letztesDx = dx < 0.0 ? -1.0 : 1.0;
+    a = b;
+    b = &c;
   }
-  return wechsel <= 2;
+  return true;
+}
+
+/// How often a walk round the ring turns from going right to going left, or back.
+int Kehren(std::span<const XY> ring) {
+  int kehren = 0;
+  double letztes = 0.0;
+  // The first walk only tells where the last side before the second one goes.
+  for (const int umlauf : {1, 2}) {
+    const XY* a = &ring.back();
+    for (const XY& b : ring) {
+      const double dx = b.x - a->x;
+      if (umlauf == 2 && dx * letztes < 0.0) ++kehren;
+      if (dx < 0.0 || dx > 0.0) letztes = dx < 0.0 ? -1.0 : 1.0;
+      a = &b;
+    }
+  }
+  return kehren;
+}
+
+/// Turning one way only and coming round once: a ring like that needs no search.
+bool IstKonvex(std::span<const XY> ring) {
+  return DrehtNurEinWeg(ring) && Kehren(ring) <= 2;
 }
 
 }  // namespace
 
-std::vector<std::size_t> NoetigeEcken(const std::vector<XY>& ring,
-                                      const std::vector<double>& tolLinie, double tolDeckung) {
-  return Ausduennung(ring, tolLinie, tolDeckung).Ausfuehren();
+Liste<std::size_t> NoetigeEcken(std::span<const XY> ring, std::span<const double> tolLinie,
+                                double tolDeckung, Speicher speicher) {
+  if (!SindAlleNoetig(ring, tolLinie, tolDeckung)) {
+    return Ausduennung(ring, tolLinie, tolDeckung, speicher).Ausfuehren();
+  }
+  Liste<std::size_t> alle(ring.size(), speicher);
+  std::iota(alle.begin(), alle.end(), std::size_t{0});
+  return alle;
 }
 
-std::vector<std::pair<std::size_t, std::size_t>> Beruehrungen(const std::vector<Verbindung>& kanten,
+std::vector<std::pair<std::size_t, std::size_t>> Beruehrungen(std::span<const Verbindung> kanten,
                                                               std::size_t hoechstens, double tol) {
-  std::vector<Spanne> spannen;
+  Arbeitsspeicher speicher;
+  Liste<Spanne> spannen(&speicher);
   spannen.reserve(kanten.size());
   for (std::size_t i = 0; i < kanten.size(); ++i) {
     const Verbindung& k = kanten[i];
@@ -203,7 +243,7 @@ std::vector<std::pair<std::size_t, std::size_t>> Beruehrungen(const std::vector<
   return paare;
 }
 
-void VerbindungenAnhaengen(const std::vector<XY>& ring, std::size_t ersterOrt,
+void VerbindungenAnhaengen(std::span<const XY> ring, std::size_t ersterOrt,
                            std::vector<Verbindung>& kanten) {
   for (std::size_t i = 0; i < ring.size(); ++i) {
     const std::size_t j = i + 1 == ring.size() ? 0 : i + 1;
@@ -211,7 +251,7 @@ void VerbindungenAnhaengen(const std::vector<XY>& ring, std::size_t ersterOrt,
   }
 }
 
-bool IstEinfach(const std::vector<XY>& ring) {
+bool IstEinfach(std::span<const XY> ring) {
   if (ring.size() < 3) return false;
   if (IstKonvex(ring)) return true;
   std::vector<Verbindung> kanten;
@@ -220,8 +260,8 @@ bool IstEinfach(const std::vector<XY>& ring) {
   return Beruehrungen(kanten, 0, kNullLaenge).empty();
 }
 
-std::vector<std::vector<std::size_t>> AnBeruehrungenTeilen(const std::vector<std::size_t>& orte) {
-  std::vector<std::size_t> geordnet = orte;
+std::vector<std::vector<std::size_t>> AnBeruehrungenTeilen(std::span<const std::size_t> orte) {
+  std::vector<std::size_t> geordnet(orte.begin(), orte.end());
   std::sort(geordnet.begin(), geordnet.end());
   if (std::adjacent_find(geordnet.begin(), geordnet.end()) == geordnet.end()) {
     std::iota(geordnet.begin(), geordnet.end(), std::size_t{0});
@@ -250,7 +290,7 @@ std::vector<std::vector<std::size_t>> AnBeruehrungenTeilen(const std::vector<std
   return teile;
 }
 
-double Ringflaeche(const std::vector<XY>& ring) {
+double Ringflaeche(std::span<const XY> ring) {
   double summe = 0.0;
   for (std::size_t i = 1; i + 1 < ring.size(); ++i) {
     summe += Kreuzprodukt(Differenz(ring[i], ring[0]), Differenz(ring[i + 1], ring[0]));

@@ -3,10 +3,12 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <utility>
 #include <vector>
 
 #include "lintavo/geom/XY.h"
+#include "lintavo/platform/Arbeitsspeicher_intern.h"
 
 namespace lintavo {
 
@@ -19,8 +21,8 @@ namespace lintavo {
 /// sides is never worn away step by step.
 ///
 /// @param tolLinie  one tolerance per corner.
-std::vector<std::size_t> NoetigeEcken(const std::vector<XY>& ring,
-                                      const std::vector<double>& tolLinie, double tolDeckung);
+Liste<std::size_t> NoetigeEcken(std::span<const XY> ring, std::span<const double> tolLinie,
+                                double tolDeckung, Speicher speicher = {});
 
 /// An edge between two numbered places.
 struct Verbindung {
@@ -36,23 +38,23 @@ inline constexpr std::size_t kMaxBeruehrungen = 300'000;
 
 /// The pairs of edges, by index, that come within tol of each other, an end place with the
 /// same number apart; stops when there are more than hoechstens. tol 0 leaves rounding.
-std::vector<std::pair<std::size_t, std::size_t>> Beruehrungen(const std::vector<Verbindung>& kanten,
+std::vector<std::pair<std::size_t, std::size_t>> Beruehrungen(std::span<const Verbindung> kanten,
                                                               std::size_t hoechstens,
                                                               double tol = 0.0);
 
 /// The edges of a ring; its places are numbered from ersterOrt on.
-void VerbindungenAnhaengen(const std::vector<XY>& ring, std::size_t ersterOrt,
+void VerbindungenAnhaengen(std::span<const XY> ring, std::size_t ersterOrt,
                            std::vector<Verbindung>& kanten);
 
 /// True when no two edges of the ring come within 1e-6 of each other, except neighbours in
 /// their common corner.
-bool IstEinfach(const std::vector<XY>& ring);
+bool IstEinfach(std::span<const XY> ring);
 
 /// Splits a closed walk over numbered places wherever it comes back to a place: each part
 /// holds indices into orte. Parts with fewer than 3 corners are left out.
-std::vector<std::vector<std::size_t>> AnBeruehrungenTeilen(const std::vector<std::size_t>& orte);
+std::vector<std::vector<std::size_t>> AnBeruehrungenTeilen(std::span<const std::size_t> orte);
 
 /// Signed area, positive for counter-clockwise order.
-double Ringflaeche(const std::vector<XY>& ring);
+double Ringflaeche(std::span<const XY> ring);
 
 }  // namespace lintavo

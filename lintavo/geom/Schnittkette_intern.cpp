@@ -16,10 +16,29 @@ double Drehung(const XY& von, const XY& nach) {
   return std::atan2(Kreuzprodukt(von, nach), Skalarprodukt(von, nach));
 }
 
+/// The sum of all turns round an outline, in radians.
+double Umdrehung(std::span<const XY> wege) {
+  double summe = 0.0;
+  const XY* davor = &wege.back();
+  for (const XY& weg : wege) {
+    summe += Drehung(*davor, weg);
+    davor = &weg;
+  }
+  return summe;
+}
+
+/// Whether a direction lies between 0 and a half turn, which belongs to the lower half.
+/// Ways that turn to one side by less than a half turn each come up here once a round.
+bool IstObereHaelfte(const XY& richtung) {
+  return richtung.y > 0.0 || (!(richtung.y < 0.0) && richtung.x > 0.0);
+}
+
 class Kette {
  public:
-  Kette(const std::vector<Kettenseite>& seiten, bool geschlossen)
-      : seiten_(seiten), geschlossen_(geschlossen), glieder_(seiten.size()) {
+  Kette(const Liste<Kettenseite>& seiten, bool geschlossen)
+      : seiten_(seiten),
+        geschlossen_(geschlossen),
+        glieder_(seiten.size(), seiten.get_allocator()) {
     const std::size_t n = seiten.size();
     for (std::size_t i = 0; i < n; ++i) {
       glieder_[i].davor = i == 0 ? n - 1 : i - 1;
@@ -62,8 +81,8 @@ class Kette {
     --anzahl_;
   }
 
-  std::vector<Kettenecke> Ecken() const {
-    std::vector<Kettenecke> ecken;
+  Liste<Kettenecke> Ecken() const {
+    Liste<Kettenecke> ecken(glieder_.get_allocator());
     ecken.reserve(anzahl_);
     for (std::size_t i = geschlossen_ ? 0 : 1; i < glieder_.size(); ++i) {
       if (glieder_[i].da) ecken.push_back({glieder_[i].ecke, i});
@@ -80,9 +99,9 @@ class Kette {
     bool da = true;
   };
 
-  const std::vector<Kettenseite>& seiten_;
+  const Liste<Kettenseite>& seiten_;
   bool geschlossen_;
-  std::vector<Glied> glieder_;
+  Liste<Glied> glieder_;
   std::size_t anzahl_ = 0;
 };
 
@@ -100,7 +119,7 @@ Ausgang GedrehteSeite(Kette& kette, std::size_t i, int umlauf, bool konvex) {
 /// The corners of an open row. A side that goes on along the line of the side before
 /// it is joined to that one; parallel neighbours beside each other keep a corner where
 /// the second one says that it starts.
-void EckenSchneiden(Kette& kette, const std::vector<Kettenseite>& seiten) {
+void EckenSchneiden(Kette& kette, const Liste<Kettenseite>& seiten) {
   for (std::size_t i = 1; i < seiten.size(); ++i) {
     const std::size_t p = kette.Davor(i);
     const Gerade& vorige = seiten[p].hinten;
@@ -125,24 +144,42 @@ bool GeradenSchneiden(const Gerade& a, const Gerade& b, XY& p) {
   return true;
 }
 
-GeschlosseneKette VerschwundeneSeitenLoeschen(const std::vector<Kettenseite>& seiten,
-                                              const std::vector<XY>& ecken, int umlauf) {
+bool SindKonvex(std::span<const XY> wege, int umlauf) {
+  if (wege.size() < 3) return false;
+  bool gebogen = true;  // at every corner, so that the rounds can be counted
+  int runden = 0;
+  const XY* davor = &wege.back();
+  for (const XY& weg : wege) {
+    if (!(umlauf * Kreuzprodukt(*davor, weg) > 0.0)) {
+      if (!(umlauf * Drehung(*davor, weg) >= -kHalbeDrehung)) return false;
+      gebogen = false;
+    }
+    if (!IstObereHaelfte(*davor) && IstObereHaelfte(weg)) ++runden;
+    davor = &weg;
+  }
+  return gebogen ? runden <= 1 : umlauf * Umdrehung(wege) < 3 * kPi;
+}
+
+bool HatGedrehteSeite(std::span<const XY> ecken, std::span<const XY> wege) {
+  for (std::size_t i = 0; i < ecken.size(); ++i) {
+    const XY& danach = ecken[i + 1 == ecken.size() ? 0 : i + 1];
+    if (Skalarprodukt(Differenz(danach, ecken[i]), wege[i]) < 0.0) return true;
+  }
+  return false;
+}
+
+GeschlosseneKette VerschwundeneSeitenLoeschen(const Liste<Kettenseite>& seiten,
+                                              std::span<const XY> ecken, int umlauf, bool konvex) {
   GeschlosseneKette ergebnis;
   const std::size_t n = seiten.size();
   if (n < 3 || ecken.size() != n) return ergebnis;
 
   Kette kette(seiten, true);
-  bool konvex = true;
-  double umdrehung = 0.0;
   for (std::size_t i = 0; i < n; ++i) {
     kette.Ecke(i) = ecken[i];
     kette.Wendung(i) = Drehung(seiten[kette.Davor(i)].richtung, seiten[i].richtung);
-    konvex = konvex && umlauf * kette.Wendung(i) >= -kHalbeDrehung;
-    umdrehung += umlauf * kette.Wendung(i);
   }
-  konvex = konvex && umdrehung < 3 * kPi;
-  ergebnis.konvex = konvex;
-  std::vector<std::size_t> offen(n);
+  Liste<std::size_t> offen(n, seiten.get_allocator());
   for (std::size_t i = 0; i < n; ++i) offen[i] = n - 1 - i;
   while (!offen.empty()) {
     const std::size_t i = offen.back();
@@ -168,7 +205,7 @@ GeschlosseneKette VerschwundeneSeitenLoeschen(const std::vector<Kettenseite>& se
   return ergebnis;
 }
 
-std::vector<Kettenecke> OffeneKetteSchneiden(const std::vector<Kettenseite>& seiten) {
+Liste<Kettenecke> OffeneKetteSchneiden(const Liste<Kettenseite>& seiten) {
   if (seiten.size() < 2) return {};
   Kette kette(seiten, false);
   EckenSchneiden(kette, seiten);
@@ -177,7 +214,8 @@ std::vector<Kettenecke> OffeneKetteSchneiden(const std::vector<Kettenseite>& sei
   if (kette.Anzahl() == 2 && !GeradenSchneiden(seiten[0].hinten, seiten[letzte].vorn, ecke)) {
     return {};
   }
-  std::vector<std::size_t> offen;
+  Liste<std::size_t> offen(seiten.get_allocator());
+  offen.reserve(seiten.size());
   for (std::size_t i = letzte; i-- > 1;) offen.push_back(i);
   while (!offen.empty()) {
     const std::size_t i = offen.back();

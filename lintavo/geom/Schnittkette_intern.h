@@ -14,9 +14,11 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <vector>
 
 #include "lintavo/geom/XY.h"
+#include "lintavo/platform/Arbeitsspeicher_intern.h"
 
 namespace lintavo {
 
@@ -47,11 +49,18 @@ struct Kettenecke {
 
 /// What is left of a closed chain.
 struct GeschlosseneKette {
-  std::vector<Kettenecke> ecken;  ///< in order; empty when the outline vanished
-  bool konvex = false;            ///< the outline turns one way only, once round
-  bool gedreht = false;           ///< turned sides remain that no two neighbours imply (never for
-                                  ///< convex outlines): the ring has loops
+  Liste<Kettenecke> ecken;  ///< in order; empty when the outline vanished
+  bool gedreht = false;     ///< turned sides remain that no two neighbours imply (never for
+                            ///< convex outlines): the ring has loops
 };
+
+/// Whether the ways round an outline turn to one side only (umlauf +1 left, -1 right), and
+/// once round.
+bool SindKonvex(std::span<const XY> wege, int umlauf);
+
+/// Whether a side is turned round: side i runs from ecken[i] to the next corner, against
+/// wege[i].
+bool HatGedrehteSeite(std::span<const XY> ecken, std::span<const XY> wege);
 
 /// Intersects two lines; false, p untouched, when they are parallel.
 bool GeradenSchneiden(const Gerade& a, const Gerade& b, XY& p);
@@ -62,8 +71,9 @@ bool GeradenSchneiden(const Gerade& a, const Gerade& b, XY& p);
 /// @param ecken   ecken[i] is where side i starts, that is its corner with the side
 ///                before it; as many as sides.
 /// @param umlauf  +1 for a counter-clockwise outline, -1 for a clockwise one.
-GeschlosseneKette VerschwundeneSeitenLoeschen(const std::vector<Kettenseite>& seiten,
-                                              const std::vector<XY>& ecken, int umlauf);
+/// @param konvex  whether the sides' ways are, as SindKonvex says.
+GeschlosseneKette VerschwundeneSeitenLoeschen(const Liste<Kettenseite>& seiten,
+                                              std::span<const XY> ecken, int umlauf, bool konvex);
 
 /// The same for the sides between two fixed cut lines, which are seiten.front() and
 /// seiten.back() and are never dropped. The first corner lies on the first cut line and
@@ -71,6 +81,6 @@ GeschlosseneKette VerschwundeneSeitenLoeschen(const std::vector<Kettenseite>& se
 /// corner remains, where the cut lines meet. Sides whose neighbours are parallel stay,
 /// even turned round; neighbouring sides on one line are joined under the first one's
 /// index. Empty when there is no corner at all (fewer than 2 lines, parallel cut lines).
-std::vector<Kettenecke> OffeneKetteSchneiden(const std::vector<Kettenseite>& seiten);
+Liste<Kettenecke> OffeneKetteSchneiden(const Liste<Kettenseite>& seiten);
 
 }  // namespace lintavo

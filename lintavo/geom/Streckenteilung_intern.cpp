@@ -13,10 +13,12 @@ namespace {
 /// The polygon seen from the segment: u along it from its start, v to its left.
 class Sicht {
  public:
-  Sicht(const XY& a, const XY& b, const GEOM2_Polygon& polygon) : laenge_(Abstand(a, b)) {
+  Sicht(const XY& a, const XY& b, const GEOM2_Polygon& polygon, Speicher speicher)
+      : laenge_(Abstand(a, b)), ecken_(speicher) {
     const XY richtung = Mal(Differenz(b, a), 1.0 / laenge_);
-    for (int i = 0; i < polygon.GetAnzahl(); ++i) {
-      const XY p = Differenz(Ort(polygon.GetEckpunkt(i)), a);
+    ecken_.reserve(polygon.GetEcken().size());
+    for (const GEOM2_Eckpunkt& ecke : polygon.GetEcken()) {
+      const XY p = Differenz(Ort(ecke), a);
       ecken_.push_back({Skalarprodukt(richtung, p), Kreuzprodukt(richtung, p)});
     }
   }
@@ -24,8 +26,8 @@ class Sicht {
   double Laenge() const { return laenge_; }
 
   /// Where the segment meets the outline, ends included, in order.
-  std::vector<double> Schnitte(double tol) const {
-    std::vector<double> schnitte{0.0, laenge_};
+  Liste<double> Schnitte(double tol) const {
+    Liste<double> schnitte({0.0, laenge_}, ecken_.get_allocator());
     const auto merken = [&](double u) {
       if (u > tol && u < laenge_ - tol) schnitte.push_back(u);
     };
@@ -68,28 +70,29 @@ class Sicht {
   }
 
   double laenge_;
-  std::vector<XY> ecken_;
+  Liste<XY> ecken_;
 };
 
 bool IstBrauchbar(const GEOM2_Polygon& polygon) {
   if (polygon.GetAnzahl() < 3) return false;
-  for (int i = 0; i < polygon.GetAnzahl(); ++i) {
-    if (!lintavo::IstBrauchbar(Ort(polygon.GetEckpunkt(i)))) return false;
-  }
-  return true;
+  return std::all_of(polygon.GetEcken().begin(), polygon.GetEcken().end(),
+                     [](const GEOM2_Eckpunkt& ecke) { return lintavo::IstBrauchbar(Ort(ecke)); });
 }
 
 }  // namespace
 
-std::vector<Streckenstueck> StreckeTeilen(const XY& a, const XY& b, const GEOM2_Polygon& polygon,
-                                          double tol) {
-  if (!lintavo::IstBrauchbar(a) || !lintavo::IstBrauchbar(b)) return {};
+Liste<Streckenstueck> StreckeTeilen(const XY& a, const XY& b, const GEOM2_Polygon& polygon,
+                                    double tol, Speicher speicher) {
+  Liste<Streckenstueck> stuecke(speicher);
+  if (!lintavo::IstBrauchbar(a) || !lintavo::IstBrauchbar(b)) return stuecke;
   const double laenge = Abstand(a, b);
-  if (laenge < tol) return {};
-  if (!IstBrauchbar(polygon)) return {{0.0, laenge, false}};
+  if (laenge < tol) return stuecke;
+  if (!IstBrauchbar(polygon)) {
+    stuecke.push_back({0.0, laenge, false});
+    return stuecke;
+  }
 
-  const Sicht sicht(a, b, polygon);
-  std::vector<Streckenstueck> stuecke;
+  const Sicht sicht(a, b, polygon, speicher);
   double von = 0.0;
   for (const double bis : sicht.Schnitte(tol)) {
     if (bis - von <= tol && bis < laenge) continue;

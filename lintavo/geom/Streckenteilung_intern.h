@@ -1,10 +1,9 @@
 // Cutting a segment at the outline of a polygon: where on its way it is inside.
 #pragma once
 
-#include <vector>
-
 #include "lintavo/geom/GEOM2_Polygon.h"
 #include "lintavo/geom/XY.h"
+#include "lintavo/platform/Arbeitsspeicher_intern.h"
 
 namespace lintavo {
 
@@ -20,7 +19,7 @@ struct Streckenstueck {
 /// tol of an edge count as inside, and a cut within tol of an end of the segment is that
 /// end, exactly. A segment shorter than tol, not finite or beyond kGroessteKoordinate
 /// gives no stretches; a polygon that is no area has nothing inside.
-std::vector<Streckenstueck> StreckeTeilen(const XY& a, const XY& b, const GEOM2_Polygon& polygon,
-                                          double tol);
+Liste<Streckenstueck> StreckeTeilen(const XY& a, const XY& b, const GEOM2_Polygon& polygon,
+                                    double tol, Speicher speicher);
 
 }  // namespace lintavo

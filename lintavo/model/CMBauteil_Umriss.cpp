@@ -9,6 +9,9 @@
 
 namespace {
 
+using lintavo::Liste;
+
+constexpr int kEckenJeSegment = 4;
 constexpr int kSichtbar = 1;
 constexpr int kUnsichtbar = 0;
 
@@ -65,13 +68,13 @@ Segment SegmentVon(const GEOM2_Achse& achse, const Lage& lage) {
 // One long side of a bent component, from its start to its end. The sides of
 // the segments are intersected with their neighbours; where a segment has no
 // room on the inside of the bend, its neighbours meet. Both cuts bound the row.
-std::vector<lintavo::Kettenecke> LangeSeite(const std::vector<Segment>& segmente, bool links) {
+Liste<lintavo::Kettenecke> LangeSeite(const Liste<Segment>& segmente, bool links) {
   const auto from = [&](const Segment& s) { return links ? s.p4 : s.p1; };
   const auto to = [&](const Segment& s) { return links ? s.p3 : s.p2; };
   const Segment& first = segmente.front();
   const Segment& last = segmente.back();
 
-  std::vector<lintavo::Kettenseite> seiten;
+  Liste<lintavo::Kettenseite> seiten(segmente.get_allocator());
   seiten.reserve(segmente.size() + 2);
   seiten.emplace_back(lintavo::Gerade{from(first), lintavo::Differenz(first.p4, first.p1)});
   for (const Segment& segment : segmente) {
@@ -98,6 +101,7 @@ bool CMBauteil::GetUmrissPunkteAchsSegment(long i, GEOM2_Polygon& umriss) const 
   // The ends of an outer extra part stand free, those of all other kinds meet
   // their neighbours.
   const int schnitt = IsZusatzteilAussen() ? kSichtbar : kUnsichtbar;
+  umriss.Reservieren(kEckenJeSegment);
   umriss.AddPunkt(s.p1.x, s.p1.y, 0.0, 0.0, kSichtbar);
   umriss.AddPunkt(s.p2.x, s.p2.y, 0.0, 0.0, schnitt);
   umriss.AddPunkt(s.p3.x, s.p3.y, 0.0, 0.0, kSichtbar);
@@ -109,13 +113,15 @@ bool CMBauteil::GetUmrissPunkte(GEOM2_Polygon& umriss) const {
   if (Achsen.size() <= 1) return GetUmrissPunkteAchsSegment(0, umriss);
   umriss.Clear();
   const Lage lage = LageDesSchnitts(lLage, dBreite + dUeberBreite);
-  std::vector<Segment> segmente;
+  lintavo::Arbeitsspeicher speicher;
+  Liste<Segment> segmente(&speicher);
   segmente.reserve(Achsen.size());
   for (const GEOM2_Achse& achse : Achsen) segmente.push_back(SegmentVon(achse, lage));
 
   const int schnitt = IsZusatzteilAussen() ? kSichtbar : kUnsichtbar;
-  const std::vector<lintavo::Kettenecke> rechts = LangeSeite(segmente, false);
-  const std::vector<lintavo::Kettenecke> links = LangeSeite(segmente, true);
+  const Liste<lintavo::Kettenecke> rechts = LangeSeite(segmente, false);
+  const Liste<lintavo::Kettenecke> links = LangeSeite(segmente, true);
+  umriss.Reservieren(static_cast<int>(rechts.size() + links.size()));
   AddSeite(rechts.begin(), rechts.end(), schnitt, umriss);
   AddSeite(links.rbegin(), links.rend(), schnitt, umriss);
   return true;
