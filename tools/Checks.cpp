@@ -1,8 +1,6 @@
 // Checks of words on the command line.
 #include "Checks.h"
 
-#include "lintavo/api/CFeApi.h"
-
 #include "Numbers.h"
 
 namespace lintavo::tools {
@@ -20,13 +18,7 @@ std::string CheckLength(const std::string& text) {
 std::string CheckSize(const std::string& text) {
   double width = 0.0;
   double height = 0.0;
-  return ParseSize(text, width, height) ? "" : "'" + text + "' is no size like 1800x1500";
-}
-
-// A plain macro file under a compressed one's name could not be read again.
-std::string CheckMacroTarget(const std::string& path) {
-  if (CFeApi::IsFileCompressed(path.c_str()) != 1) return "";
-  return "'" + path + "': compressed files are only read; choose a name ending in aqz";
+  return ParseSize(text, width, height) ? "" : "'" + text + "' is no size like 180x150";
 }
 
 }  // namespace lintavo::tools

@@ -15,7 +15,4 @@ std::string CheckLength(const std::string& text);
 /// "WIDTHxHEIGHT".
 std::string CheckSize(const std::string& text);
 
-/// A name under which a plain macro file can be written.
-std::string CheckMacroTarget(const std::string& path);
-
 }  // namespace lintavo::tools

@@ -23,9 +23,14 @@ class Console {
   /// One line that says what went wrong; the run then ends as a failure.
   void ReportFailure(const std::string& message);
 
+  /// One line that is no result: where something was written to, how much was done.
+  void Remark(const std::string& text);
+
   int Status() const { return status_; }
 
  private:
+  void Say(const std::string& line);
+
   std::ostream& out_;
   std::ostream& messages_;
   int status_ = kDone;

@@ -1,9 +1,10 @@
+// What stands where a command is going to write.
 #include "OldFile.h"
 
 #include <system_error>
 #include <utility>
 
-#include "WindowFile.h"
+#include "Errors.h"
 
 namespace lintavo::tools {
 

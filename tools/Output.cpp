@@ -3,33 +3,15 @@
 
 #include <sstream>
 
-#include "lintavo/platform/SaveFile.h"
-
 #include "Console.h"
-#include "OldFile.h"
+#include "System.h"
 #include "WindowFile.h"
 
-#if defined(_WIN32)
-#include <fcntl.h>
-#include <io.h>
-#include <stdio.h>
-#endif
-
 namespace lintavo::tools {
-namespace {
-
-// Text that brings its own line ends must not get a second kind of them.
-void KeepLineEnds() {
-#if defined(_WIN32)
-  _setmode(_fileno(stdout), _O_BINARY);
-#endif
-}
-
-}  // namespace
 
 void WriteOutput(const std::string& path, std::span<const std::string> sources,
                  const Console& console, const std::function<void(std::ostream&)>& write) {
-  if (path.empty()) {
+  if (path.empty() || path == kStandardStream) {
     console.Out().flush();
     KeepLineEnds();
     write(console.Out());
@@ -38,8 +20,7 @@ void WriteOutput(const std::string& path, std::span<const std::string> sources,
   for (const std::string& source : sources) RefuseSource(source, path);
   std::ostringstream text;
   write(text);
-  const OldFile oldFile(path);
-  if (!SaveFile(path.c_str(), text.view())) oldFile.FailNotWritten();
+  WriteBytes(path, text.view());
 }
 
 }  // namespace lintavo::tools

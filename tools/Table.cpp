@@ -4,14 +4,14 @@
 #include <algorithm>
 #include <utility>
 
+#include "Text.h"
+
 namespace lintavo::tools {
 namespace {
 
-std::size_t CharacterCount(const std::string& utf8) {
-  return static_cast<std::size_t>(std::count_if(utf8.begin(), utf8.end(), [](char c) {
-    return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
-  }));
-}
+constexpr std::size_t kIndent = 2;
+// Below this a column of text says nothing any more.
+constexpr std::size_t kTextMin = 8;
 
 std::string Padded(const std::string& cell, std::size_t width, Table::Align align) {
   const std::string blanks(width - CharacterCount(cell), ' ');
@@ -31,12 +31,14 @@ void Table::AddRow(std::vector<std::string> cells) {
   rows_.push_back(std::move(cells));
 }
 
-void Table::Print(std::ostream& out) const {
-  const std::vector<std::size_t> widths = Widths();
+void Table::Print(std::ostream& out, std::size_t width) const {
+  std::vector<std::size_t> widths = Widths();
+  if (width > 0) Narrow(widths, width);
   for (const std::vector<std::string>& row : rows_) {
     std::string line;
     for (std::size_t i = 0; i < row.size(); ++i) {
-      line += "  " + Padded(row[i], widths[i], columns_[i].align);
+      line += std::string(kIndent, ' ') +
+              Padded(CutTo(row[i], widths[i]), widths[i], columns_[i].align);
     }
     line.erase(line.find_last_not_of(' ') + 1);
     out << line << '\n';
@@ -51,6 +53,20 @@ std::vector<std::size_t> Table::Widths() const {
     }
   }
   return widths;
+}
+
+// Numbers are never cut.
+void Table::Narrow(std::vector<std::size_t>& widths, std::size_t width) const {
+  std::size_t widest = widths.size();
+  std::size_t whole = 0;
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    whole += kIndent + widths[i];
+    if (columns_[i].align == Align::kRight) continue;
+    if (widest == widths.size() || widths[i] > widths[widest]) widest = i;
+  }
+  if (whole <= width || widest == widths.size()) return;
+  const std::size_t rest = widths[widest] - std::min(widths[widest], whole - width);
+  widths[widest] = std::max(rest, std::min(widths[widest], kTextMin));
 }
 
 }  // namespace lintavo::tools

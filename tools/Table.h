@@ -24,10 +24,13 @@ class Table {
   void AddRow(std::vector<std::string> cells);
 
   /// Prints the head and all rows, indented by two blanks, without trailing blanks.
-  void Print(std::ostream& out) const;
+  /// Where that takes more than `width` columns, the widest column of text is cut;
+  /// 0 is no limit.
+  void Print(std::ostream& out, std::size_t width = 0) const;
 
  private:
   std::vector<std::size_t> Widths() const;
+  void Narrow(std::vector<std::size_t>& widths, std::size_t width) const;
 
   std::vector<Column> columns_;
   std::vector<std::vector<std::string>> rows_;

@@ -1,40 +1,43 @@
-// Reads, fits and writes the window that a command works on.
+// Reads, fits and writes the window that a command works on. Files may be "-".
 #pragma once
 
-#include <stdexcept>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "lintavo/api/CFeApi.h"
 
+#include "Errors.h"
+#include "MacroText.h"
+
 namespace lintavo::tools {
 
-/// A command that cannot be carried out; `what` is the line for the user.
-class CommandError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
+/// The library's last message for this window as one line, else `otherwise`.
+std::string LibraryMessage(const CFeApi& window, const std::string& otherwise);
 
-/// Throws `CommandError` with the message, led by the file's name unless that stands
-/// in it.
-[[noreturn]] void Fail(const std::string& path, const std::string& message);
+/// The form of a file: compressed when its name ends in "cqz", a buffer when its content
+/// shows it, else plain. On standard input the content alone tells.
+MacroForm FormOf(const std::string& path, std::string_view bytes);
 
-/// Throws `CommandError` when both names are one file: nothing that a command makes may
-/// take the place of what it is made from.
-void RefuseSource(const std::string& source, const std::string& target);
-
-/// Reads and calculates a macro file, compressed when its name ends in "cqz".
-/// Throws `CommandError` with the library's own message, and for a file without
-/// any sash; the text names the file.
+/// Reads and calculates a macro file in the form that `FormOf` tells. Throws `CommandError` with
+/// the library's own message, for a file that is cut off, and for one without any sash; the text
+/// names the file.
 void LoadWindow(const std::string& path, CFeApi& window);
+
+/// Fills the window from a macro file's lines and calculates it; 0 when that fails.
+int ReadLines(const std::vector<std::string>& lines, CFeApi& window);
 
 /// Fits the window into an opening without reveals and calculates it anew.
 /// Throws `CommandError` when the window has no dimensions for its overall
 /// width and height or cannot take the size.
 void FitWindow(const std::string& path, double width, double height, CFeApi& window);
 
+/// Calculates the window anew. Throws `CommandError` when that fails.
+void CalculateWindow(const std::string& path, CFeApi& window);
+
 /// Makes the window of a parameter file, whose type and patterns lie in the base
-/// directory, and writes it unless `target` is empty. Throws `CommandError` with the
-/// library's own message, and when there is no sash or the target cannot be written.
+/// directory, and writes it as `SaveWindow` does unless `target` is empty. Throws
+/// `CommandError` with the library's own message, and when there is no sash.
 void MakePosition(const std::string& path, const std::string& baseDirectory,
                   const std::string& target, CFeApi& window);
 
@@ -42,7 +45,12 @@ void MakePosition(const std::string& path, const std::string& baseDirectory,
 /// without folders and ending. Throws `CommandError` when that fails.
 void SaveForm(const std::string& path, const std::string& target, CFeApi& window);
 
-/// Writes the plain macro file. Throws `CommandError` when that fails.
+/// Writes the macro file, compressed when its name ends in "cqz". Throws
+/// `CommandError` when that fails.
 void SaveWindow(const std::string& path, CFeApi& window);
+
+/// Throws `CommandError` when both names are of one file: nothing that a command makes
+/// may take the place of what it is made from.
+void RefuseSource(const std::string& source, const std::string& target);
 
 }  // namespace lintavo::tools

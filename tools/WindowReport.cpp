@@ -5,6 +5,8 @@
 
 #include "lintavo/drawing/Text.h"
 
+#include "Errors.h"
+#include "System.h"
 #include "Table.h"
 
 namespace lintavo::tools {
@@ -25,10 +27,17 @@ std::string FluegelName(const CFeApi& window, long i) {
   return ToDisplayText(name, length);
 }
 
-std::string ZMaszName(const CFeApi& window, long i) {
-  char name[256];
-  const long length = window.GetZMaszName(i, name);
-  return ToDisplayText(name, length);
+// Opening kind, hinge side and opening side, as in "DK Li In".
+std::string OpeningText(const CFeApi& window, long i) {
+  std::string all;
+  char text[256];
+  for (const auto query :
+       {&CFeApi::GetFluegelGangart, &CFeApi::GetFluegelAnschlag, &CFeApi::GetFluegelOeffSeite}) {
+    const long length = (window.*query)(i, text);
+    const std::string word = ToDisplayText(text, length);
+    if (!word.empty()) all += (all.empty() ? "" : " ") + word;
+  }
+  return all;
 }
 
 const char* FuellungText(eFeApiFuellArten art) {
@@ -52,12 +61,13 @@ void PrintHead(const CFeApi& window, std::ostream& out) {
       << " frame parts, " << window.GetAnzahlRahmenBauteile(2) << " single parts\n";
 }
 
-void PrintSashes(const CFeApi& window, std::ostream& out) {
+void PrintSashes(const CFeApi& window, std::ostream& out, std::size_t width) {
   const long count = window.GetAnzahlFluegel();
   if (count <= 0) return;
   using Align = Table::Align;
   Table table({{"#", Align::kRight},
                {"Sash"},
+               {"Opening"},
                {"Width", Align::kRight},
                {"Thickness", Align::kRight},
                {"Overlap", Align::kRight},
@@ -65,7 +75,7 @@ void PrintSashes(const CFeApi& window, std::ostream& out) {
                {"Bars", Align::kRight},
                {"Filling"}});
   for (long i = 0; i < count; ++i) {
-    table.AddRow({std::to_string(i + 1), FluegelName(window, i),
+    table.AddRow({std::to_string(i + 1), FluegelName(window, i), OpeningText(window, i),
                   LengthText(window.GetFluegelRahmenBreite(i)),
                   LengthText(window.GetFluegelRahmenDicke(i)),
                   LengthText(window.GetFluegelUeberschlag(i)),
@@ -75,7 +85,7 @@ void PrintSashes(const CFeApi& window, std::ostream& out) {
                       LengthText(window.GetFluegelFuellungDicke(i))});
   }
   out << '\n';
-  table.Print(out);
+  table.Print(out, width);
 }
 
 const char* RoleText(long i, long horizontal, long vertical) {
@@ -84,7 +94,7 @@ const char* RoleText(long i, long horizontal, long vertical) {
   return "";
 }
 
-void PrintDimensions(const CFeApi& window, std::ostream& out) {
+void PrintDimensions(const CFeApi& window, std::ostream& out, std::size_t width) {
   const long count = window.GetAnzahlZusatzMasze();
   if (count <= 0) return;
   long horizontal = -1;
@@ -93,19 +103,43 @@ void PrintDimensions(const CFeApi& window, std::ostream& out) {
   using Align = Table::Align;
   Table table({{"#", Align::kRight}, {"Dimension"}, {"Length", Align::kRight}, {""}});
   for (long i = 0; i < count; ++i) {
-    table.AddRow({std::to_string(i + 1), ZMaszName(window, i), LengthText(window.GetZMaszLaenge(i)),
-                  RoleText(i, horizontal, vertical)});
+    table.AddRow({std::to_string(i + 1), DimensionName(window, i),
+                  LengthText(window.GetZMaszLaenge(i)), RoleText(i, horizontal, vertical)});
   }
   out << '\n';
-  table.Print(out);
+  table.Print(out, width);
 }
 
 }  // namespace
 
-void PrintReport(const CFeApi& window, std::ostream& out) {
+std::string DimensionName(const CFeApi& window, long i) {
+  char name[256];
+  const long length = window.GetZMaszName(i, name);
+  return ToDisplayText(name, length);
+}
+
+void PrintReport(const CFeApi& window, std::ostream& out, std::size_t width) {
   PrintHead(window, out);
-  PrintSashes(window, out);
-  PrintDimensions(window, out);
+  PrintSashes(window, out, width);
+  PrintDimensions(window, out, width);
+}
+
+ReportPrinter::ReportPrinter(bool several, std::ostream& out)
+    : several_(several), width_(TerminalWidth(Stream::kOut)), out_(out) {}
+
+void ReportPrinter::Print(const std::string& path, const CFeApi& window) {
+  if (!first_) out_ << '\n';
+  first_ = false;
+  if (several_) out_ << "File    " << DisplayName(path) << '\n';
+  PrintReport(window, out_, width_);
+}
+
+void ReportPrinter::PrintResult(const std::string& path, const std::string& target,
+                                const CFeApi& window, const std::string& head) {
+  if (target == kStandardStream || (several_ && !target.empty())) return;
+  if (!several_) out_ << head;
+  Print(path, window);
+  if (!target.empty()) out_ << "\nWritten to " << ToDisplayText(target) << '\n';
 }
 
 }  // namespace lintavo::tools

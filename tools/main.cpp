@@ -9,18 +9,35 @@
 #include <new>
 #include <string>
 
+#include "Arguments.h"
 #include "Console.h"
+#include "Errors.h"
+#include "System.h"
 #include "commands/Commands.h"
 
 namespace {
 
 using namespace lintavo::tools;
 
+constexpr const char* kFooter =
+    "'lintavo COMMAND --help' tells a command's options and shows examples.\n"
+    "\n"
+    "Where a file is named, - is standard input or output. Exit status: 0 when all is\n"
+    "done, 1 when something failed, 2 when the command was called in a wrong way.";
+
 int Run(int argc, char** argv) {
-  CLI::App app("Reads, fits and draws parametric windows. Lengths are in the window's own units.",
-               "lintavo");
-  app.set_version_flag("--version", std::string("lintavo ") + LINTAVO_VERSION);
+  CLI::App app(
+      "Reads, checks, changes and draws parametric windows. Lengths are in the window's\n"
+      "own units.",
+      "lintavo");
+  app.set_version_flag("--version", std::string("lintavo ") + LINTAVO_VERSION,
+                       "Print the version and exit");
+  app.set_help_flag("-h,--help", "Print this help and exit");
+  app.footer(kFooter);
   app.require_subcommand(1);
+  UsePlainHelp(app);
+  // A path may begin with a slash.
+  app.allow_windows_style_options(false);
   Console console(std::cout, std::cerr);
   for (const AddCommand add : AllCommands()) add(app, console);
   try {
@@ -36,8 +53,12 @@ int Run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  UseUtf8();
   try {
     return Run(argc, argv);
+  } catch (const UsageError& error) {
+    std::fprintf(stderr, "lintavo: %s\n", error.what());
+    return kWrongUsage;
   } catch (const std::bad_alloc&) {
     std::fputs("lintavo: out of memory\n", stderr);
   } catch (const std::exception& error) {

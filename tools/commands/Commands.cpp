@@ -4,15 +4,20 @@
 namespace lintavo::tools {
 
 std::span<const AddCommand> AllCommands() {
+  // clang-format off
   static constexpr AddCommand kCommands[] = {
-      AddShow,      //
-      AddFit,       //
-      AddDraw,      //
-      AddPosition,  //
-      AddForm,      //
-      AddParts,     //
-      AddExport,    //
+      AddShow,
+      AddCheck,
+      AddDraw,
+      AddFit,
+      AddSet,
+      AddPosition,
+      AddForm,
+      AddParts,
+      AddExport,
+      AddConvert,
   };
+  // clang-format on
   return kCommands;
 }
 

@@ -18,12 +18,15 @@ class Console;
 using AddCommand = void (*)(CLI::App& app, Console& console);
 
 void AddShow(CLI::App& app, Console& console);
-void AddFit(CLI::App& app, Console& console);
+void AddCheck(CLI::App& app, Console& console);
 void AddDraw(CLI::App& app, Console& console);
+void AddFit(CLI::App& app, Console& console);
+void AddSet(CLI::App& app, Console& console);
 void AddPosition(CLI::App& app, Console& console);
 void AddForm(CLI::App& app, Console& console);
 void AddParts(CLI::App& app, Console& console);
 void AddExport(CLI::App& app, Console& console);
+void AddConvert(CLI::App& app, Console& console);
 
 /// In the order in which the help names them.
 std::span<const AddCommand> AllCommands();

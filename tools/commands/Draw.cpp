@@ -8,11 +8,12 @@
 #include "lintavo/drawing/Scene.h"
 #include "lintavo/drawing/Text.h"
 
+#include "Arguments.h"
+#include "Batch.h"
 #include "Checks.h"
-#include "Console.h"
 #include "Numbers.h"
-#include "OldFile.h"
 #include "StyleFile.h"
+#include "System.h"
 #include "WindowFile.h"
 #include "commands/Commands.h"
 
@@ -20,8 +21,9 @@ namespace lintavo::tools {
 namespace {
 
 struct DrawOptions {
-  std::string file;
-  std::string picture;
+  FileArguments files;
+  std::string target;
+  std::string format;
   std::string size;
   std::string settings;
   std::string materials;
@@ -32,10 +34,17 @@ struct DrawOptions {
   bool hiddenLine = false;
 };
 
-std::string CheckPicture(const std::string& path) {
+// The format that is asked for, else the one that the target's name tells. In a folder
+// there are SVG files, unless told otherwise.
+std::string FormatNameOf(const DrawOptions& options) {
+  if (!options.format.empty()) return options.format;
   drawing::PictureFormat format{};
-  if (drawing::FormatFromPath(path, format)) return "";
-  return "'" + path + "' does not end in .svg, .png or .pdf";
+  if (drawing::FormatFromPath(options.target, format)) {
+    return CLI::detail::to_lower(options.target.substr(options.target.size() - 3));
+  }
+  if (IsForSeveral(options.target) && options.target.find('{') == std::string::npos) return "svg";
+  throw UsageError("'" + DisplayName(options.target) +
+                   "' does not end in .svg, .png or .pdf; name the format, as in '--format svg'");
 }
 
 drawing::Style ToStyle(const DrawOptions& options) {
@@ -56,21 +65,30 @@ drawing::SceneOptions ToSceneOptions(const DrawOptions& options, const drawing::
   return scene;
 }
 
-void Draw(const DrawOptions& options) {
-  const drawing::Style style = ToStyle(options);
+void DrawWindow(const Source& source, const std::string& target, const DrawOptions& options,
+                const drawing::Style& style, drawing::PictureFormat format) {
   CFeApi window;
-  LoadWindow(options.file, window);
+  LoadWindow(source.path, window);
+  RefuseSource(source.path, target);
   double width = 0.0;
   double height = 0.0;
-  if (ParseSize(options.size, width, height)) FitWindow(options.file, width, height, window);
+  if (ParseSize(options.size, width, height)) FitWindow(source.path, width, height, window);
+  std::string picture;
+  const drawing::PictureStatus status = drawing::RenderPicture(
+      drawing::BuildScene(window, ToSceneOptions(options, style)), format, picture, style);
+  if (status != drawing::PictureStatus::kOk) Fail(source.path, drawing::StatusText(status));
+  WriteBytes(target, picture);
+}
+
+void Draw(const DrawOptions& options, Console& console) {
+  const std::string ending = FormatNameOf(options);
   drawing::PictureFormat format{};
-  drawing::FormatFromPath(options.picture, format);
-  const OldFile old(options.picture);
-  const drawing::PictureStatus status = drawing::WritePicture(
-      drawing::BuildScene(window, ToSceneOptions(options, style)), format, options.picture, style);
-  if (status == drawing::PictureStatus::kOk) return;
-  if (status == drawing::PictureStatus::kNotWritten) old.FailNotWritten();
-  throw CommandError(drawing::ToDisplayText(options.file) + ": " + drawing::StatusText(status));
+  drawing::FormatFromPath("." + ending, format);
+  const drawing::Style style = ToStyle(options);
+  ForEachTarget(FindWindows(options.files), options.files.quiet, console, options.target, ending,
+                [&](const Source& source, const std::string& target) {
+                  DrawWindow(source, target, options, style, format);
+                });
 }
 
 void AddSceneOptions(CLI::App& command, DrawOptions& options) {
@@ -86,21 +104,38 @@ void AddSceneOptions(CLI::App& command, DrawOptions& options) {
 
 }  // namespace
 
-void AddDraw(CLI::App& app, Console&) {
+void AddDraw(CLI::App& app, Console& console) {
   const auto options = std::make_shared<DrawOptions>();
-  CLI::App* command = app.add_subcommand("draw", "Draw the window");
-  command->add_option("file", options->file, "Macro file (aqz or cqz)")->required();
-  command->add_option("-o,--output", options->picture, "Picture to write: .svg, .png or .pdf")
-      ->required()
-      ->check(CheckPicture);
-  command->add_option("--fit", options->size, "Fit into an opening first: WIDTHxHEIGHT")
-      ->check(CheckSize);
-  command->add_option("--settings", options->settings,
-                      "Settings file: pens and the sizes of dimensions");
-  command->add_option("--materials", options->materials,
-                      "Material file: colours of parts, opening symbols and dimensions");
+  CLI::App* command = app.add_subcommand("draw", "Draw windows");
+  AddFiles(*command, options->files, kWindowFiles);
+  AddTarget(*command, options->target,
+            "Picture to write: a name ending in .svg,\n.png or .pdf, a folder/, a pattern like\n"
+            "out/{name}.png or - for standard output")
+      ->required();
+  command
+      ->add_option(
+          "--format", options->format,
+          "svg, png or pdf; as the target's ending\ntells where not given, in a folder svg")
+      ->check(CLI::IsMember({"svg", "png", "pdf"}))
+      ->type_name("FORMAT");
+  command->add_option("--fit", options->size, "Fit into an opening first")
+      ->check(CheckSize)
+      ->type_name("WIDTHxHEIGHT");
+  command
+      ->add_option("--settings", options->settings,
+                   "Settings file: pens and the sizes of\ndimensions")
+      ->type_name("FILE");
+  command
+      ->add_option("--materials", options->materials,
+                   "Material file: colours of parts, opening\nsymbols and dimensions")
+      ->type_name("FILE");
   AddSceneOptions(*command, *options);
-  command->callback([options] { Draw(*options); });
+  command->footer(
+      "Examples:\n"
+      "  lintavo draw window.aqz -o window.png\n"
+      "  lintavo draw window.aqz -o window.svg --fit 180x150 --outside\n"
+      "  lintavo draw windows/ -o pictures/ --format pdf --hidden-line");
+  command->callback([options, &console] { Draw(*options, console); });
 }
 
 }  // namespace lintavo::tools

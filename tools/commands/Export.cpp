@@ -6,7 +6,7 @@
 
 #include "lintavo/api/CFeApi.h"
 
-#include "Checks.h"
+#include "Arguments.h"
 #include "Console.h"
 #include "JsonText.h"
 #include "Output.h"
@@ -18,7 +18,7 @@ namespace lintavo::tools {
 namespace {
 
 struct ExportOptions {
-  std::vector<std::string> files;
+  FileArguments files;
   std::string target;
   bool json = true;  // the only format
   bool views = false;
@@ -27,15 +27,16 @@ struct ExportOptions {
 // All windows are read before anything is written: a document breaks off for no fault of
 // a file.
 void Export(const ExportOptions& options, Console& console) {
-  std::vector<CFeApi> windows(options.files.size());
-  for (std::size_t i = 0; i < windows.size(); ++i) LoadWindow(options.files[i], windows[i]);
-  WriteOutput(options.target, options.files, console, [&](std::ostream& out) {
+  const std::vector<std::string> files = WindowPaths(options.files);
+  std::vector<CFeApi> windows(files.size());
+  for (std::size_t i = 0; i < windows.size(); ++i) LoadWindow(files[i], windows[i]);
+  WriteOutput(options.target, files, console, [&](std::ostream& out) {
     JsonWriter json(out);
     json.BeginObject();
     json.Add("schema", kWindowSchema);
     json.BeginArray("windows");
     for (std::size_t i = 0; i < windows.size(); ++i) {
-      WriteWindowJson(options.files[i], windows[i], options.views, json);
+      WriteWindowJson(files[i], windows[i], options.views, json);
     }
     json.End();
     json.End();
@@ -48,11 +49,11 @@ void AddExport(CLI::App& app, Console& console) {
   const auto options = std::make_shared<ExportOptions>();
   CLI::App* command =
       app.add_subcommand("export", "Write everything about calculated windows as data");
-  command->add_option("files", options->files, "Macro files (aqz or cqz)")->required();
+  AddFiles(*command, options->files, kWindowFiles);
   command->add_flag("--json", options->json, "As JSON, the default and only format");
   command->add_flag("--views", options->views,
                     "Add the views with hidden lines removed, of the window and of each sash");
-  command->add_option("-o,--output", options->target, "File to write");
+  AddTarget(*command, options->target, "File to write, or - for standard output");
   command->callback([options, &console] { Export(*options, console); });
 }
 

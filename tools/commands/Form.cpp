@@ -1,10 +1,12 @@
-// `lintavo form`: a window's blank parameter form.
+// `lintavo form`: windows' blank parameter forms.
 #include <CLI/CLI.hpp>
 #include <memory>
 #include <string>
 
 #include "lintavo/api/CFeApi.h"
 
+#include "Arguments.h"
+#include "Batch.h"
 #include "WindowFile.h"
 #include "commands/Commands.h"
 
@@ -12,25 +14,38 @@ namespace lintavo::tools {
 namespace {
 
 struct FormOptions {
-  std::string file;
+  FileArguments files;
   std::string target;
 };
 
-// The window's type is named as its file.
-void Form(const FormOptions& options) {
-  CFeApi window;
-  LoadWindow(options.file, window);
-  SaveForm(options.file, options.target, window);
+void Form(const FormOptions& options, Console& console) {
+  ForEachTarget(FindWindows(options.files), options.files.quiet, console, options.target, "txt",
+                [&](const Source& source, const std::string& target) {
+                  CFeApi window;
+                  LoadWindow(source.path, window);
+                  SaveForm(source.path, target, window);
+                });
 }
 
 }  // namespace
 
-void AddForm(CLI::App& app, Console&) {
+void AddForm(CLI::App& app, Console& console) {
   const auto options = std::make_shared<FormOptions>();
-  CLI::App* command = app.add_subcommand("form", "Write the window's blank parameter form");
-  command->add_option("file", options->file, "Macro file (aqz, cqz or a type's ini)")->required();
-  command->add_option("-o,--output", options->target, "Parameter file to write")->required();
-  command->callback([options] { Form(*options); });
+  CLI::App* command = app.add_subcommand("form", "Write windows' blank parameter forms");
+  AddFiles(*command, options->files,
+           "Windows (aqz, cqz or a type's ini),\nfolders of them, or - for standard input");
+  AddTarget(*command, options->target,
+            "Form to write: a name, a folder/, a pattern\nlike out/{name}.txt or - for standard\n"
+            "output")
+      ->required();
+  command->footer(
+      "The form names the window's type as its file is named. Filled in, it is a\n"
+      "parameter file, which 'lintavo position' makes a window of.\n"
+      "\n"
+      "Examples:\n"
+      "  lintavo form stock/Fenster/Einfluegelig.ini -o kitchen.txt\n"
+      "  lintavo form windows/ -o forms/");
+  command->callback([options, &console] { Form(*options, console); });
 }
 
 }  // namespace lintavo::tools

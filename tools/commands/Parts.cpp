@@ -6,6 +6,7 @@
 
 #include "lintavo/api/CFeApi.h"
 
+#include "Arguments.h"
 #include "Checks.h"
 #include "Console.h"
 #include "Numbers.h"
@@ -23,7 +24,7 @@ namespace {
 constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
 
 struct PartsArguments {
-  std::vector<std::string> files;
+  FileArguments files;
   std::string target;
   std::string format = "table";
   std::string language = "de";
@@ -62,8 +63,9 @@ void Parts(const PartsArguments& arguments, Console& console) {
   ParseNumber(arguments.rebate, options.falz);
   ParseNumber(arguments.scale, scale);
   PartsCollector collector(options);
+  const std::vector<std::string> files = WindowPaths(arguments.files);
   std::vector<PartsWindow> windows;
-  for (const std::string& file : arguments.files) {
+  for (const std::string& file : files) {
     CFeApi window;
     LoadWindow(file, window);
     collector.Add(window);
@@ -73,7 +75,7 @@ void Parts(const PartsArguments& arguments, Console& console) {
   }
   PartsList list = collector.Sorted();
   Skaliere(scale, list);
-  WriteOutput(arguments.target, arguments.files, console,
+  WriteOutput(arguments.target, files, console,
               [&](std::ostream& out) { Write(arguments, list, windows, out); });
 }
 
@@ -96,7 +98,7 @@ void AddParts(CLI::App& app, Console& console) {
   const auto arguments = std::make_shared<PartsArguments>();
   CLI::App* command =
       app.add_subcommand("parts", "Print the cutting list: bars, panes and fittings");
-  command->add_option("files", arguments->files, "Macro files (aqz or cqz)")->required();
+  AddFiles(*command, arguments->files, kWindowFiles);
   command
       ->add_option("--rebate", arguments->rebate,
                    "How far panes reach into their frame on every side; default 0")
@@ -107,7 +109,7 @@ void AddParts(CLI::App& app, Console& console) {
       ->add_option("--scale", arguments->scale,
                    "Multiply lengths, by 10 for millimetres from centimetres; areas by its square")
       ->check(CheckLength);
-  command->add_option("-o,--output", arguments->target, "File to write");
+  AddTarget(*command, arguments->target, "File to write, or - for standard output");
   AddFormatOptions(*command, *arguments);
   command->callback([arguments, &console] { Parts(*arguments, console); });
 }

@@ -1,12 +1,12 @@
-// `lintavo position`: the window of a parameter file.
+// `lintavo position`: the windows of parameter files.
 #include <CLI/CLI.hpp>
 #include <memory>
 #include <string>
 
 #include "lintavo/api/CFeApi.h"
-#include "lintavo/drawing/Text.h"
 
-#include "Checks.h"
+#include "Arguments.h"
+#include "Batch.h"
 #include "Console.h"
 #include "WindowFile.h"
 #include "WindowReport.h"
@@ -16,31 +16,40 @@ namespace lintavo::tools {
 namespace {
 
 struct PositionOptions {
-  std::string file;
+  FileArguments files;
   std::string base;
   std::string target;
 };
 
 void Position(const PositionOptions& options, Console& console) {
-  CFeApi window;
-  MakePosition(options.file, options.base, options.target, window);
-  PrintReport(window, console.Out());
-  if (options.target.empty()) return;
-  console.Out() << "\nWritten to " << drawing::ToDisplayText(options.target) << '\n';
+  const std::vector<Source> sources = FindSources(options.files, {"txt"});
+  ReportPrinter printer(sources.size() > 1, console.Out());
+  ForEachTarget(sources, options.files.quiet, console, options.target, "aqz",
+                [&](const Source& source, const std::string& target) {
+                  CFeApi window;
+                  MakePosition(source.path, options.base, target, window);
+                  printer.PrintResult(source.path, target, window, "");
+                });
 }
 
 }  // namespace
 
 void AddPosition(CLI::App& app, Console& console) {
   const auto options = std::make_shared<PositionOptions>();
-  CLI::App* command = app.add_subcommand("position", "Make the window of a parameter file");
-  command->add_option("file", options->file, "Parameter file")->required();
+  CLI::App* command = app.add_subcommand("position", "Make the windows of parameter files");
+  AddFiles(*command, options->files,
+           "Parameter files, folders of them (txt),\nor - for standard input");
   command
       ->add_option("--base", options->base,
-                   "Folder with the types in Fenster and the patterns in Sprossen")
-      ->required();
-  command->add_option("-o,--output", options->target, "Macro file (aqz) to write")
-      ->check(CheckMacroTarget);
+                   "Folder with the types in Fenster and the\npatterns in Sprossen")
+      ->required()
+      ->type_name("FOLDER");
+  AddTarget(*command, options->target, kWindowTarget);
+  command->footer(
+      "Examples:\n"
+      "  lintavo position kitchen.txt --base stock\n"
+      "  lintavo position kitchen.txt --base stock -o kitchen.aqz\n"
+      "  lintavo position house/ --base stock -o windows/");
   command->callback([options, &console] { Position(*options, console); });
 }
 

@@ -1,10 +1,11 @@
 // `lintavo show`: what is known of a window.
 #include <CLI/CLI.hpp>
 #include <memory>
-#include <string>
 
 #include "lintavo/api/CFeApi.h"
 
+#include "Arguments.h"
+#include "Batch.h"
 #include "Console.h"
 #include "WindowFile.h"
 #include "WindowReport.h"
@@ -13,23 +14,28 @@
 namespace lintavo::tools {
 namespace {
 
-struct ShowOptions {
-  std::string file;
-};
-
-void Show(const ShowOptions& options, Console& console) {
-  CFeApi window;
-  LoadWindow(options.file, window);
-  PrintReport(window, console.Out());
+void Show(const FileArguments& files, Console& console) {
+  const std::vector<Source> sources = FindWindows(files);
+  ReportPrinter printer(sources.size() > 1, console.Out());
+  ForEachSource(sources, files.quiet, console, [&](const Source& source) {
+    CFeApi window;
+    LoadWindow(source.path, window);
+    printer.Print(source.path, window);
+  });
 }
 
 }  // namespace
 
 void AddShow(CLI::App& app, Console& console) {
-  const auto options = std::make_shared<ShowOptions>();
+  const auto files = std::make_shared<FileArguments>();
   CLI::App* command = app.add_subcommand("show", "Print name, size, frame, sashes and dimensions");
-  command->add_option("file", options->file, "Macro file (aqz or cqz)")->required();
-  command->callback([options, &console] { Show(*options, console); });
+  AddFiles(*command, *files, kWindowFiles);
+  command->footer(
+      "Examples:\n"
+      "  lintavo show window.aqz\n"
+      "  lintavo show windows/ -r | less\n"
+      "  lintavo fit window.aqz 180 150 -o - | lintavo show -");
+  command->callback([files, &console] { Show(*files, console); });
 }
 
 }  // namespace lintavo::tools

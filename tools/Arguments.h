@@ -1,0 +1,30 @@
+// Words of the command line that several commands share.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+
+#include "Sources.h"
+
+namespace lintavo::tools {
+
+inline constexpr const char* kWindowFiles =
+    "Windows (aqz, cqz), folders of them,\nor - for standard input";
+
+inline constexpr const char* kWindowTarget =
+    "Window to write: a name ending in aqz or\ncqz, a folder/, a pattern like out/{name}.aqz\n"
+    "or - for standard output";
+
+/// The files that a command works on, one at least, and the flags for several.
+void AddFiles(CLI::App& command, FileArguments& files, const std::string& description);
+
+/// The flags alone.
+void AddFlagsForSeveral(CLI::App& command, FileArguments& files);
+
+/// "-o,--output TARGET"; may be a folder or a pattern, see `FindTargets`.
+CLI::Option* AddTarget(CLI::App& command, std::string& target, const std::string& description);
+
+/// Help without the parser's own words, on lines of at most 80 characters.
+void UsePlainHelp(CLI::App& app);
+
+}  // namespace lintavo::tools
