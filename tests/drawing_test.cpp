@@ -45,45 +45,61 @@ TEST(Picture, PngIsAsLargeAsTheProportionsAsk) {
   EXPECT_EQ(high.height, 1600u);
 }
 
-TEST(Picture, SvgIsWellFormedWithOnePathPerShape) {
+TEST(Picture, SvgNamesShapesLinesAndTexts) {
   Scene scene = RectangleScene(200.0, 100.0);
+  scene.shapes[0].bauteil = 2;
   scene.shapes.push_back(scene.shapes.front());
   scene.shapes.back().kind = ShapeKind::kGlas;
+  scene.shapes.back().fluegel = 1;
+  scene.lines.resize(3);
+  scene.lines[0].to = scene.lines[1].to = scene.lines[2].to = {200.0, 100.0};
+  scene.lines[0].kind = scene.lines[1].kind = LineKind::kOeffnungsSymbol;
+  scene.lines[0].fluegel = scene.lines[1].fluegel = 1;
+  scene.lines[1].dashed = true;
+  scene.lines[2].kind = LineKind::kMaszLinie;
+  scene.lines[2].masz = 0;
+  scene.texts.push_back({0, {100.0, -20.0}, 5.0, false, "200.5"});
   const auto svg = ParseSvg(Render(scene, PictureFormat::kSvg));
   EXPECT_TRUE(svg.wellFormed);
   EXPECT_EQ(svg.root, "svg");
-  EXPECT_EQ(svg.viewBox, "0 0 1600 864");
-  EXPECT_EQ(svg.paths, 2);
+  EXPECT_EQ(svg.title, "rectangle");
+  const auto frame = svg.First("rahmenteil");
+  EXPECT_EQ(frame.id, "rahmen-2");
+  EXPECT_EQ(frame.groups, (std::vector<std::string>{"fenster", "rahmen"}));
+  EXPECT_EQ(svg.First("glas").id, "fluegel-1-fuellung");
+  EXPECT_EQ(svg.First("symbol").groups.back(), "fluegel-1-symbol");
+  EXPECT_EQ(svg.First("maszlinie").groups.back(), "masz-0");
+  EXPECT_EQ(svg.First("masztext").text, "200,5");
+  EXPECT_EQ(svg.Count(), 2 + 3 + 1);
+  EXPECT_EQ(svg.Dashed(), 1);
 }
 
-TEST(Picture, LinesAndTextsComeOutOnce) {
+TEST(Picture, NoTextBreaksASvg) {
   Scene scene = RectangleScene(200.0, 100.0);
-  scene.lines.resize(3);
-  scene.lines[0].to = scene.lines[1].to = scene.lines[2].to = {200.0, 100.0};
-  scene.lines[1].dashed = true;
-  scene.texts.push_back({0, {100.0, -20.0}, 5.0, false, "200"});
-  scene.texts.push_back({1, {-20.0, 50.0}, 5.0, true, "100.5"});
+  scene.name = "<B\xfcro> \"1\" & \x01\xff";
   const auto svg = ParseSvg(Render(scene, PictureFormat::kSvg));
   EXPECT_TRUE(svg.wellFormed);
-  EXPECT_EQ(svg.paths, 1 + 3 + 2);
-  EXPECT_EQ(svg.dashed, 1);
+  EXPECT_EQ(svg.title, "<B\xc3\xbcro> \"1\" &  \xc3\xbf");
 }
 
-TEST(Picture, LetteringFillsTheBoxOfItsText) {
-  // Alone on the page, the digits reach from margin to margin but for half a pen, a
-  // tenth of their height: the box is as high as the digits and 3.5 times as long.
+TEST(Picture, TextsFillTheirBoxes) {
+  // Five digits of 0.556 of the font's size, whose digits are 0.71 of it high.
   Scene scene;
   scene.texts.push_back({0, {7.0, 3.0}, 10.0, false, "80269"});
   Box box;
   ASSERT_TRUE(GetBox(scene, box));
   EXPECT_NEAR(box.top - box.bottom, 10.0, 1e-9);
-  // Five digits of 0.56 and four gaps of 0.24, drawn in 0.9 of the height, and the pen.
-  EXPECT_NEAR(box.right - box.left, 10.0 * (0.9 * (5 * 0.56 + 4 * 0.24) + 0.1), 1e-9);
-  const auto svg = ParseSvg(Render(scene, PictureFormat::kSvg));
-  const double pen = 1472.0 / (box.right - box.left);  // a tenth of the digits' height
-  EXPECT_NEAR(svg.left, 64.0 + pen / 2.0, 0.01);
-  EXPECT_NEAR(svg.right, 1536.0 - pen / 2.0, 0.01);
-  EXPECT_NEAR(svg.bottom - svg.top, 9.0 * pen, 0.01);
+  EXPECT_NEAR(box.right - box.left, 10.0 * 5 * 0.556 / 0.71, 1e-9);
+  // Alone on the page it reaches from margin to margin, and stands upright in its middle.
+  auto look = ParseSvg(Render(scene, PictureFormat::kSvg)).First("masztext").look;
+  EXPECT_EQ(look["textLength"], "1472");
+  EXPECT_EQ(look["x"], "800");
+  EXPECT_EQ(look["text-anchor"], "middle");
+  scene.texts[0].upright = true;
+  look = ParseSvg(Render(scene, PictureFormat::kSvg)).First("masztext").look;
+  EXPECT_EQ(look["textLength"], "1472");
+  EXPECT_EQ(look["y"], "800");
+  EXPECT_EQ(look["transform"].compare(0, 11, "rotate(-90 "), 0);
 }
 
 TEST(Picture, UpInTheWindowIsUpOnPaper) {
@@ -92,7 +108,33 @@ TEST(Picture, UpInTheWindowIsUpOnPaper) {
   scene.shapes[0].outline = {{0.0, 0.0}, {100.0, 0.0}, {50.0, 100.0}};
   const std::string svg = Render(scene, PictureFormat::kSvg);
   // The triangle's base lies below its apex: y grows downwards on paper.
-  EXPECT_NE(svg.find("M 64 1536 L 1536 1536 L 800 64 Z"), std::string::npos) << svg;
+  EXPECT_NE(svg.find("M64 1536 1536 1536 800 64Z"), std::string::npos) << svg;
+}
+
+TEST(Picture, ToScaleIsAsLargeAsThePaper) {
+  // 200 cm at 1:20 are 100 mm, with margins of 10 on each side.
+  PlanOptions plan;
+  plan.scale = 20.0;
+  Scene scene = RectangleScene(200.0, 100.0);
+  scene.umriss = scene.shapes[0].outline;
+  std::string bytes;
+  ASSERT_EQ(RenderPicture(scene, PictureFormat::kSvg, bytes, {}, plan), PictureStatus::kOk);
+  auto svg = ParseSvg(bytes);
+  EXPECT_EQ(svg.width, "120mm");
+  EXPECT_EQ(svg.viewBox, "0 0 120 70");
+  EXPECT_EQ(svg.First("rahmenteil").look["d"], "M10 60 110 60 110 10 10 10Z");
+  EXPECT_EQ(svg.First("umriss").look["stroke-width"], "0.5");
+  // 120 mm at 254 pixels per inch.
+  plan.dpi = 254.0;
+  ASSERT_EQ(RenderPicture(scene, PictureFormat::kPng, bytes, {}, plan), PictureStatus::kOk);
+  EXPECT_EQ(ParsePng(bytes).width, 1200u);
+  plan.pixels = 333;
+  ASSERT_EQ(RenderPicture(scene, PictureFormat::kPng, bytes, {}, plan), PictureStatus::kOk);
+  EXPECT_EQ(ParsePng(bytes).width, 333u);
+  // In metres the same numbers are a hundred times as large.
+  plan.unit = LengthUnit::kMetre;
+  EXPECT_EQ(RenderPicture(scene, PictureFormat::kSvg, bytes, {}, plan), PictureStatus::kTooLarge);
+  EXPECT_NEAR(UnitsPerMillimetre(plan), 0.02, 1e-12);
 }
 
 TEST(Picture, PdfHasOnePage) {

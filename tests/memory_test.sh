@@ -8,6 +8,7 @@
 set -euo pipefail
 
 windows=$1/examples/windows
+suppressions=$1/tests/support/fontconfig.supp
 host_cpp=$2
 host_c=$3
 with_pictures=$4
@@ -21,7 +22,8 @@ check() {
   local expected=$1 status=0
   shift
   valgrind --quiet --error-exitcode=99 --leak-check=full \
-    --errors-for-leak-kinds="${leak_kinds:-definite,indirect,possible}" "$@" \
+    --errors-for-leak-kinds="${leak_kinds:-definite,indirect,possible}" \
+    --suppressions="$suppressions" "$@" \
     >/dev/null 2>"$scratch/log" || status=$?
   if [ "$status" -ne "$expected" ]; then
     cat "$scratch/log"
@@ -41,7 +43,7 @@ check 1 "$host_c" "$windows/rundbogen.aqz" 5 5
 
 case $with_pictures in
   ON | 1 | TRUE)
-    for ending in svg png; do
+    for ending in svg png pdf dxf; do
       check 0 "$host_c" "$windows/rundbogen.aqz" 220 190 "$scratch/picture.$ending"
     done
     check 1 "$host_c" "$windows/rundbogen.aqz" 220 190 "$scratch/missing/picture.svg"

@@ -226,14 +226,18 @@ TEST_P(EveryExample, StaysOnThePage) {
     options.hiddenLine = hiddenLine;
     options.side = ViewSide::kOutside;
     const Scene scene = BuildScene(window, options);
-    const auto svg = ParseSvg(Render(scene, PictureFormat::kSvg));
+    auto svg = ParseSvg(Render(scene, PictureFormat::kSvg));
     double width = 0.0;
     double height = 0.0;
     ASSERT_EQ(std::sscanf(svg.viewBox.c_str(), "0 0 %lf %lf", &width, &height), 2);
-    // A part that closes round is filled and outlined by two paths.
-    const std::size_t items = scene.shapes.size() + scene.lines.size() + scene.texts.size();
-    EXPECT_GE(svg.paths, static_cast<int>(items));
-    EXPECT_LE(svg.paths, static_cast<int>(items) + 2);
+    EXPECT_TRUE(svg.wellFormed);
+    // A panel is hatched besides; a part that closes round is filled and outlined by two paths.
+    const std::size_t items = scene.shapes.size() + scene.lines.size() + scene.texts.size() + 1;
+    const long paths = svg.Count() - svg.Count("schraffur");
+    EXPECT_GE(paths, static_cast<long>(items));
+    EXPECT_LE(paths, static_cast<long>(items) + 2);
+    std::sort(svg.ids.begin(), svg.ids.end());
+    EXPECT_EQ(std::adjacent_find(svg.ids.begin(), svg.ids.end()), svg.ids.end());
     EXPECT_GT(svg.left, 0.0);
     EXPECT_GT(svg.top, 0.0);
     EXPECT_LT(svg.right, width);

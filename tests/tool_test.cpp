@@ -125,7 +125,8 @@ TEST_F(Tool, DrawsPictures) {
   // Four frame parts, three mullions and transoms, four panes, and three sashes
   // with four parts each; the field in the middle has no frame of its own. Each of
   // the sashes has a handle of eleven lines and two hinges of six.
-  EXPECT_EQ(svg.paths, 4 + 3 + 4 + 3 * 4 + 3 * (11 + 2 * 6));
+  EXPECT_EQ(svg.Count(), 4 + 3 + 4 + 3 * 4 + 3 * (11 + 2 * 6) + 1);
+  EXPECT_EQ(svg.Count("umriss"), 1);
 
   EXPECT_EQ(Run(plain + Path("a.pdf") + "'").status, 0);
   EXPECT_EQ(ReadBytes(Path("a.pdf")).compare(0, 5, "%PDF-"), 0);
@@ -142,16 +143,16 @@ TEST_F(Tool, DrawOptionsChooseWhatIsShown) {
   // turn-and-tilt symbols of four lines, one of two, and two lines for the fixed field.
   const SvgFile bare = draw("--no-dims --no-symbols");
   const SvgFile whole = draw("");
-  EXPECT_EQ(whole.paths, bare.paths + 4 * 6 + 12);
-  EXPECT_EQ(whole.dashed, 0);
-  EXPECT_EQ(draw("--inside").paths, whole.paths);
-  EXPECT_EQ(draw("--no-dims").paths, bare.paths + 12);
-  EXPECT_EQ(draw("--no-symbols").paths, bare.paths + 4 * 6);
+  EXPECT_EQ(whole.Count(), bare.Count() + 4 * 6 + 12);
+  EXPECT_EQ(whole.Dashed(), 0);
+  EXPECT_EQ(draw("--inside").Count(), whole.Count());
+  EXPECT_EQ(draw("--no-dims").Count(), bare.Count() + 12);
+  EXPECT_EQ(draw("--no-symbols").Count(), bare.Count() + 4 * 6);
   // From outside the fittings are hidden and all but the fixed field's lines dashed.
   const SvgFile outside = draw("--outside");
-  EXPECT_EQ(outside.dashed, 10);
-  EXPECT_EQ(outside.paths, whole.paths - 3 * (11 + 2 * 6));
-  EXPECT_EQ(draw("--hidden-line --outside --no-dims").dashed, 10);
+  EXPECT_EQ(outside.Dashed(), 10);
+  EXPECT_EQ(outside.Count(), whole.Count() - 3 * (11 + 2 * 6));
+  EXPECT_EQ(draw("--hidden-line --outside --no-dims").Dashed(), 10);
 }
 
 TEST_F(Tool, DrawsAWindowFittedFirst) {
@@ -171,7 +172,7 @@ TEST_F(Tool, DrawsEveryExample) {
     const Outcome outcome =
         Run("draw '" + entry.path().string() + "' -o '" + Path("example.svg") + "'");
     EXPECT_EQ(outcome.status, 0) << entry.path() << ": " << outcome.err;
-    EXPECT_GE(ParseSvg(ReadBytes(Path("example.svg"))).paths, 2) << entry.path();
+    EXPECT_GE(ParseSvg(ReadBytes(Path("example.svg"))).Count(), 2) << entry.path();
     ++drawn;
   }
   EXPECT_GT(drawn, 10);
@@ -340,17 +341,16 @@ TEST_F(Tool, PicturesTakeColoursPensAndSizesFromFiles) {
     EXPECT_EQ(outcome.status, 0) << options << ": " << outcome.err;
     return Attributes(ReadBytes(Path("a.svg")));
   };
-  const std::string red = "rgb(100%,0%,0%)";
-  const std::string green = "rgb(0%,100%,0%)";
-  const std::string blue = "rgb(0%,0%,100%)";
+  const std::string red = "#ff0000";
+  const std::string green = "#00ff00";
+  const std::string blue = "#0000ff";
   const std::string plain = draw("");
   for (const std::string& colour : {red, green, blue}) EXPECT_FALSE(Contains(plain, colour));
 
   const std::string materials = "--materials '" + Path("m.ini") + "'";
   const std::string inside = draw(materials);
   for (const std::string& colour :
-       {red, blue, std::string("rgb(100%,100%,0%)"), std::string("rgb(0%,100%,100%)"),
-        std::string("rgb(100%,0%,100%)")}) {
+       {red, blue, std::string("#ffff00"), std::string("#00ffff"), std::string("#ff00ff")}) {
     EXPECT_TRUE(Contains(inside, colour)) << colour;
   }
   EXPECT_FALSE(Contains(inside, green));
@@ -360,8 +360,8 @@ TEST_F(Tool, PicturesTakeColoursPensAndSizesFromFiles) {
   EXPECT_FALSE(Contains(outside, red));
   EXPECT_FALSE(Contains(outside, blue));
 
-  // Pens are shares of the usual width, 0.0009 of a side of 1600: four times 1.44.
-  const std::string thick = "stroke-width:5.76";
+  // Pens are shares of the usual width, 0.25 mm of a side of 297 that has 1600: four times.
+  const std::string thick = "stroke-width:5.387";
   EXPECT_FALSE(Contains(plain, thick));
   EXPECT_TRUE(Contains(draw("--settings '" + Path("s.ini") + "'"), thick));
 

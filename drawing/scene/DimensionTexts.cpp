@@ -6,7 +6,7 @@
 
 #include "lintavo/drawing/Text.h"
 
-#include "Dimensions_intern.h"
+#include "scene/Dimensions_intern.h"
 
 namespace lintavo::drawing {
 namespace {

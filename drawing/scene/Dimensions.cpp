@@ -3,8 +3,8 @@
 #include <cmath>
 #include <utility>
 
-#include "Dimensions_intern.h"
-#include "Parts_intern.h"
+#include "scene/Dimensions_intern.h"
+#include "scene/Parts_intern.h"
 
 namespace lintavo::drawing {
 namespace {
@@ -16,6 +16,10 @@ constexpr double kArrowLengthShare = 1.0;
 constexpr double kArrowWidthShare = 0.4;
 constexpr double kOverhangShare = 1.2;
 constexpr double kGapShare = 0.4;
+constexpr double kFirstRowShare = 4.0;
+constexpr double kRowStepShare = 2.8;
+// Height of a digit on a plan, in millimetres.
+constexpr double kTextMillimetres = 2.5;
 // Two arrowheads need a dimension as long as so many of them; outside of it the
 // line goes on for so many.
 constexpr double kArrowsInside = 3.0;
@@ -75,6 +79,7 @@ void AddExtensionLines(const CFeApi& window, const Dimension& dimension, const B
   for (int i = 0; i < lines.lAnzahl; ++i) {
     Line line = LineOf(LineKind::kHilfsLinie, dimension.masz, {lines.pdX1[i], lines.pdY1[i]},
                        {lines.pdX2[i], lines.pdY2[i]});
+    line.bauteil = i;
     line.from.*Across(dimension) += dimension.shift;
     line.to.*Across(dimension) += dimension.shift;
     ReachToWindow(dimension, box, sizes.gap, line);
@@ -140,30 +145,36 @@ bool ReadDimension(const CFeApi& window, long masz, const Box& box, const Dimens
 
 }  // namespace
 
-DimensionSizes SizesFor(double extent, const MeasureSizes& wanted, double unit) {
+DimensionSizes SizesFor(double extent, const MeasureSizes& wanted, double unit, double millimetre) {
   const auto size = [&](double length, double usual) {
     return length > 0.0 ? std::min(length * unit, extent) : usual;
   };
-  const double text = size(wanted.textHeight, kTextShare * extent);
+  const bool onPaper = std::isfinite(millimetre) && millimetre > 0.0;
+  const double text =
+      size(wanted.textHeight, onPaper ? kTextMillimetres * millimetre : kTextShare * extent);
   return {text,
           size(wanted.arrowLength, kArrowLengthShare * text),
           size(wanted.arrowWidth, kArrowWidthShare * text),
           size(wanted.extensionLength, kOverhangShare * text),
           kGapShare * text,
-          wanted.lineFactor > 0.0 ? wanted.lineFactor : 1.0};
+          wanted.lineFactor > 0.0 ? wanted.lineFactor : 1.0,
+          kFirstRowShare * text,
+          kRowStepShare * text};
 }
 
 std::vector<Dimension> AddDimensions(const CFeApi& window, const Box& box,
-                                     const DimensionSizes& sizes, Scene& scene) {
+                                     const DimensionSizes& sizes, bool chains, Scene& scene) {
   std::vector<Dimension> dimensions;
   const long count = window.GetAnzahlZusatzMasze();
   for (long i = 0; i < count; ++i) {
     Dimension dimension;
-    if (!ReadDimension(window, i, box, sizes, dimension)) continue;
+    if (ReadDimension(window, i, box, sizes, dimension)) dimensions.push_back(dimension);
+  }
+  if (chains) ArrangeInRows(box, sizes, dimensions);
+  for (const Dimension& dimension : dimensions) {
     AddDimensionLine(dimension, sizes, scene);
     AddExtensionLines(window, dimension, box, sizes, scene);
     AddArrows(window, dimension, sizes, scene);
-    dimensions.push_back(dimension);
   }
   return dimensions;
 }

@@ -27,16 +27,23 @@ struct DimensionSizes {
   double overhang;    ///< by which extension lines cross the dimension line
   double gap;         ///< between the window and an extension line, a line and its text
   double lineFactor;  ///< stretches the distance of dimension lines from the window
+  double firstRow;    ///< from what is drawn to the nearest row of dimensions
+  double rowStep;     ///< from row to row
 };
 
 /// The sizes for a window whose longer side is `extent`: what is wanted, in units of
-/// `unit`, and for the rest what suits the window.
-DimensionSizes SizesFor(double extent, const MeasureSizes& wanted, double unit);
+/// `unit`, and for the rest what suits the window, or the paper when a millimetre on it is
+/// known.
+DimensionSizes SizesFor(double extent, const MeasureSizes& wanted, double unit, double millimetre);
 
 /// Appends the lines and arrowheads of all dimensions around a window that fills
-/// `box`; returns what has to be written.
+/// `box`, in rows if `chains`; returns what has to be written.
 std::vector<Dimension> AddDimensions(const CFeApi& window, const Box& box,
-                                     const DimensionSizes& sizes, Scene& scene);
+                                     const DimensionSizes& sizes, bool chains, Scene& scene);
+
+/// Moves the dimensions into rows below and left of the box, each outside of the shorter ones
+/// that it overlaps.
+void ArrangeInRows(const Box& box, const DimensionSizes& sizes, std::vector<Dimension>& dimensions);
 
 /// Writes the lengths, each beside its line where it meets no line, shape's edge
 /// or text of the scene.

@@ -9,7 +9,7 @@
 
 #include "lintavo/geom/Toleranzen.h"
 
-#include "Layers_intern.h"
+#include "scene/Layers_intern.h"
 
 namespace lintavo::drawing {
 namespace {

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "Parts_intern.h"
+#include "scene/Parts_intern.h"
 
 namespace lintavo::drawing {
 namespace {

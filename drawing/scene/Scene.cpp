@@ -9,12 +9,12 @@
 #include "lintavo/api/CFeApi.h"
 #include "lintavo/drawing/Text.h"
 
-#include "Dimensions_intern.h"
-#include "Layers_intern.h"
-#include "Lettering_intern.h"
-#include "Paper_intern.h"
-#include "Parts_intern.h"
-#include "Symbols_intern.h"
+#include "paper/Paper_intern.h"
+#include "scene/Dimensions_intern.h"
+#include "scene/Layers_intern.h"
+#include "scene/Lettering_intern.h"
+#include "scene/Parts_intern.h"
+#include "scene/Symbols_intern.h"
 
 namespace lintavo::drawing {
 namespace {
@@ -48,16 +48,17 @@ double ExtentOf(const Box& box) {
   return std::max(box.right - box.left, box.top - box.bottom);
 }
 
-void AddMeasures(const CFeApi& window, const Box& box, const DimensionSizes& sizes, Scene& scene) {
-  const std::vector<Dimension> dimensions = AddDimensions(window, box, sizes, scene);
-  AddDimensionTexts(dimensions, sizes, scene);
+void AddMeasures(const CFeApi& window, const Box& box, const SceneOptions& options, double unit,
+                 Scene& scene) {
+  const DimensionSizes sizes = SizesFor(ExtentOf(box), options.sizes, unit, options.millimetre);
+  AddDimensionTexts(AddDimensions(window, box, sizes, options.chains, scene), sizes, scene);
 }
 
-void AddMeasures(const CFeApi& window, const MeasureSizes& wanted, Scene& scene) {
+void AddMeasures(const CFeApi& window, const SceneOptions& options, Scene& scene) {
   Box box;
   if (!GetBox(scene, box)) return;
-  if (!wanted.pixel) {
-    AddMeasures(window, box, SizesFor(ExtentOf(box), wanted, 1.0), scene);
+  if (!options.sizes.pixel) {
+    AddMeasures(window, box, options, 1.0, scene);
     return;
   }
   // How large a pixel is depends on what the dimensions add to the picture, and the
@@ -66,10 +67,40 @@ void AddMeasures(const CFeApi& window, const MeasureSizes& wanted, Scene& scene)
   Box whole = box;
   for (int round = 0; round < kPixelRounds; ++round) {
     scene = bare;
-    const double unit = ExtentOf(whole) / kPixelsAcross;
-    AddMeasures(window, box, SizesFor(ExtentOf(box), wanted, unit), scene);
+    AddMeasures(window, box, options, ExtentOf(whole) / kPixelsAcross, scene);
     if (!GetBox(scene, whole)) return;
   }
+}
+
+// A text of the façade, each of which is read by one of its members.
+std::string TextOf(const CFeApi& window, long (CFeApi::*member)(long, char (&)[256]) const,
+                   long fluegel) {
+  char text[256];
+  const long length = (window.*member)(fluegel, text);
+  return ToDisplayText(text, length);
+}
+
+void Describe(const CFeApi& window, Scene& scene) {
+  char name[256];
+  const long length = window.GetFensterBezeichnung(name);
+  scene.name = ToDisplayText(name, length);
+  scene.breite = window.GetFensterBreite();
+  scene.hoehe = window.GetFensterHoehe();
+  for (long i = 0; i < window.GetAnzahlFluegel(); ++i) {
+    scene.fluegel.push_back({TextOf(window, &CFeApi::GetFluegelGangart, i),
+                             TextOf(window, &CFeApi::GetFluegelAnschlag, i),
+                             TextOf(window, &CFeApi::GetFluegelOeffSeite, i)});
+  }
+}
+
+// The opening without reveals is the frame's outline.
+void AddUmriss(const CFeApi& window, Scene& scene) {
+  CFeApiPolygon outline;
+  if (scene.shapes.empty() ||
+      window.GetWandOeffnung(CFeApiWandOeffnungsParameter(), outline) != 1) {
+    return;
+  }
+  scene.umriss = ToOutline(outline);
 }
 
 // Widens a box; false for a point that is no finite one.
@@ -86,16 +117,16 @@ bool Widen(const Point& point, Box& box) {
 
 Scene BuildScene(const CFeApi& window, const SceneOptions& options) {
   Scene scene;
-  char name[256];
-  const long length = window.GetFensterBezeichnung(name);
-  scene.name = ToDisplayText(name, length);
+  scene.side = options.side;
+  Describe(window, scene);
   AddLayers(window, options, scene);
+  AddUmriss(window, scene);
   if (options.hiddenLine) {
-    scene.shapes.clear();
     AddView(window, options.side, scene);
+    scene.shapes.clear();
   }
   AddFittings(window, options.side, scene);
-  if (options.dimensions) AddMeasures(window, options.sizes, scene);
+  if (options.dimensions) AddMeasures(window, options, scene);
   return scene;
 }
 
@@ -112,6 +143,9 @@ bool GetBox(const Scene& scene, Box& box) {
     for (const Point& point : shape.outline) {
       if (!Widen(point, found)) return false;
     }
+  }
+  for (const Point& point : scene.umriss) {
+    if (!Widen(point, found)) return false;
   }
   for (const Line& line : scene.lines) {
     if (!Widen(line.from, found) || !Widen(line.to, found)) return false;

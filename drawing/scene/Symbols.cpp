@@ -5,8 +5,9 @@
 
 #include "lintavo/geom/KanteClippen.h"
 
-#include "Layers_intern.h"
-#include "Symbols_intern.h"
+#include "scene/EdgeOrigin_intern.h"
+#include "scene/Layers_intern.h"
+#include "scene/Symbols_intern.h"
 
 namespace lintavo::drawing {
 namespace {
@@ -105,6 +106,7 @@ void AddFittings(const CFeApi& window, ViewSide side, Scene& scene) {
     for (long j = 0; j < window.GetAnzahlBeschlaege(i); ++j) {
       CFeApiStrecken record;
       if (window.GetBeschlagZeichnung(i, j, record) != 1) continue;
+      kind.bauteil = j;
       for (const CMStrecke& strecke : ToStrecken(record)) AddLine(strecke, kind, scene);
     }
   }
@@ -114,6 +116,7 @@ void AddView(const CFeApi& window, ViewSide side, Scene& scene) {
   CFeApiStrecken record;
   if (window.GetAnsicht(side == ViewSide::kOutside ? 1 : 0, record) != 1) return;
   for (const CMStrecke& strecke : ToStrecken(record)) AddLine(strecke, Line(), scene);
+  TraceBack(scene);
 }
 
 }  // namespace lintavo::drawing

@@ -17,7 +17,8 @@ void AddSymbol(const CFeApi& window, long fluegel, ViewSide side, std::size_t fi
 /// Appends the fittings of all sashes that show them on that side.
 void AddFittings(const CFeApi& window, ViewSide side, Scene& scene);
 
-/// Appends the visible edges of the window.
+/// Appends the visible edges of the window, each with the part of the scene's shapes that it
+/// belongs to.
 void AddView(const CFeApi& window, ViewSide side, Scene& scene);
 
 }  // namespace lintavo::drawing

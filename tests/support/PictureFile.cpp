@@ -19,11 +19,6 @@ const char* Attribute(const XML_Char** attributes, const char* name) {
   return "";
 }
 
-bool IsDashed(const XML_Char** attributes) {
-  return std::strstr(Attribute(attributes, "style"), "stroke-dasharray") != nullptr ||
-         *Attribute(attributes, "stroke-dasharray") != '\0';
-}
-
 void Widen(double x, double y, SvgFile& svg) {
   svg.left = std::min(svg.left, x);
   svg.right = std::max(svg.right, x);
@@ -49,16 +44,51 @@ void ReadPath(const char* text, SvgFile& svg) {
   }
 }
 
-void OnElement(void* data, const XML_Char* name, const XML_Char** attributes) {
-  SvgFile& svg = *static_cast<SvgFile*>(data);
-  if (svg.root.empty()) {
+// What is read so far, and the elements around.
+struct Reading {
+  SvgFile svg;
+  std::vector<SvgElement> open;
+  std::string text;
+};
+
+void OnStart(void* data, const XML_Char* name, const XML_Char** attributes) {
+  Reading& reading = *static_cast<Reading*>(data);
+  SvgFile& svg = reading.svg;
+  if (reading.open.empty()) {
     svg.root = name;
     svg.viewBox = Attribute(attributes, "viewBox");
+    svg.width = Attribute(attributes, "width");
+    svg.height = Attribute(attributes, "height");
   }
-  if (std::strcmp(name, "path") != 0) return;
-  ++svg.paths;
-  if (IsDashed(attributes)) ++svg.dashed;
-  ReadPath(Attribute(attributes, "d"), svg);
+  SvgElement element;
+  if (!reading.open.empty()) {
+    element.look = reading.open.back().look;
+    element.groups = reading.open.back().groups;
+    const std::string& around = reading.open.back().id;
+    if (!around.empty()) element.groups.push_back(around);
+  }
+  element.name = name;
+  element.id = Attribute(attributes, "id");
+  element.klass = Attribute(attributes, "class");
+  if (!element.id.empty()) svg.ids.push_back(element.id);
+  for (int i = 0; attributes[i] != nullptr; i += 2) element.look[attributes[i]] = attributes[i + 1];
+  if (element.name == "path") ReadPath(Attribute(attributes, "d"), svg);
+  reading.open.push_back(element);
+  reading.text.clear();
+}
+
+void OnEnd(void* data, const XML_Char* name) {
+  Reading& reading = *static_cast<Reading*>(data);
+  SvgElement element = reading.open.back();
+  reading.open.pop_back();
+  if (std::strcmp(name, "title") == 0) reading.svg.title = reading.text;
+  if (std::strcmp(name, "path") != 0 && std::strcmp(name, "text") != 0) return;
+  if (element.name == "text") element.text = reading.text;
+  reading.svg.elements.push_back(element);
+}
+
+void OnText(void* data, const XML_Char* text, int length) {
+  static_cast<Reading*>(data)->text.append(text, static_cast<std::size_t>(length));
 }
 
 unsigned BigEndianAt(const std::string& bytes, std::size_t i) {
@@ -71,15 +101,36 @@ unsigned BigEndianAt(const std::string& bytes, std::size_t i) {
 
 }  // namespace
 
+long SvgFile::Count(const std::string& klass) const {
+  return std::count_if(elements.begin(), elements.end(), [&](const SvgElement& element) {
+    return klass.empty() || element.klass == klass;
+  });
+}
+
+long SvgFile::Dashed() const {
+  return std::count_if(elements.begin(), elements.end(), [](const SvgElement& element) {
+    const auto dashes = element.look.find("stroke-dasharray");
+    return dashes != element.look.end() && dashes->second != "none";
+  });
+}
+
+SvgElement SvgFile::First(const std::string& klass) const {
+  for (const SvgElement& element : elements) {
+    if (element.klass == klass) return element;
+  }
+  return {};
+}
+
 SvgFile ParseSvg(const std::string& text) {
-  SvgFile svg;
+  Reading reading;
   XML_Parser parser = XML_ParserCreate(nullptr);
-  XML_SetUserData(parser, &svg);
-  XML_SetElementHandler(parser, OnElement, nullptr);
-  svg.wellFormed =
+  XML_SetUserData(parser, &reading);
+  XML_SetElementHandler(parser, OnStart, OnEnd);
+  XML_SetCharacterDataHandler(parser, OnText);
+  reading.svg.wellFormed =
       XML_Parse(parser, text.data(), static_cast<int>(text.size()), 1) == XML_STATUS_OK;
   XML_ParserFree(parser);
-  return svg;
+  return reading.svg;
 }
 
 std::string ReadBytes(const std::string& path) {

@@ -12,7 +12,7 @@
 #include "Batch.h"
 #include "Checks.h"
 #include "Numbers.h"
-#include "StyleFile.h"
+#include "PictureOptions.h"
 #include "System.h"
 #include "WindowFile.h"
 #include "commands/Commands.h"
@@ -20,19 +20,37 @@
 namespace lintavo::tools {
 namespace {
 
+constexpr int kMostPixels = 30000;
+
 struct DrawOptions {
   FileArguments files;
   std::string target;
   std::string format;
   std::string size;
-  std::string settings;
-  std::string materials;
-  bool inside = false;
-  bool outside = false;
-  bool noDimensions = false;
-  bool noSymbols = false;
-  bool hiddenLine = false;
+  int pixels = 0;
+  bool title = false;
+  bool chains = false;
+  PictureOptions common;
 };
+
+// The options in the library's form.
+struct Look {
+  drawing::PictureFormat format{};
+  drawing::Style style;
+  drawing::PlanOptions plan;
+  drawing::SceneOptions scene;
+};
+
+Look ToLook(const DrawOptions& options) {
+  Look look;
+  look.style = ToStyle(options.common);
+  look.plan = ToPlan(options.common);
+  look.plan.title = options.title;
+  look.plan.pixels = options.pixels;
+  look.scene = ToSceneOptions(options.common, look.style, look.plan);
+  look.scene.chains = options.chains;
+  return look;
+}
 
 // The format that is asked for, else the one that the target's name tells. In a folder
 // there are SVG files, unless told otherwise.
@@ -43,30 +61,13 @@ std::string FormatNameOf(const DrawOptions& options) {
     return CLI::detail::to_lower(options.target.substr(options.target.size() - 3));
   }
   if (IsForSeveral(options.target) && options.target.find('{') == std::string::npos) return "svg";
-  throw UsageError("'" + DisplayName(options.target) +
-                   "' does not end in .svg, .png or .pdf; name the format, as in '--format svg'");
-}
-
-drawing::Style ToStyle(const DrawOptions& options) {
-  drawing::Style style;
-  if (!options.settings.empty()) LoadSettings(options.settings, style);
-  if (!options.materials.empty()) LoadMaterials(options.materials, style);
-  return style;
-}
-
-// The sizes of dimensions are the style's.
-drawing::SceneOptions ToSceneOptions(const DrawOptions& options, const drawing::Style& style) {
-  drawing::SceneOptions scene;
-  scene.side = options.outside ? drawing::ViewSide::kOutside : drawing::ViewSide::kInside;
-  scene.dimensions = !options.noDimensions;
-  scene.symbols = !options.noSymbols;
-  scene.hiddenLine = options.hiddenLine;
-  scene.sizes = style.sizes;
-  return scene;
+  throw UsageError(
+      "'" + DisplayName(options.target) +
+      "' does not end in .svg, .dxf, .pdf or .png; name the format, as in '--format svg'");
 }
 
 void DrawWindow(const Source& source, const std::string& target, const DrawOptions& options,
-                const drawing::Style& style, drawing::PictureFormat format) {
+                const Look& look) {
   CFeApi window;
   LoadWindow(source.path, window);
   RefuseSource(source.path, target);
@@ -75,31 +76,19 @@ void DrawWindow(const Source& source, const std::string& target, const DrawOptio
   if (ParseSize(options.size, width, height)) FitWindow(source.path, width, height, window);
   std::string picture;
   const drawing::PictureStatus status = drawing::RenderPicture(
-      drawing::BuildScene(window, ToSceneOptions(options, style)), format, picture, style);
+      drawing::BuildScene(window, look.scene), look.format, picture, look.style, look.plan);
   if (status != drawing::PictureStatus::kOk) Fail(source.path, drawing::StatusText(status));
   WriteBytes(target, picture);
 }
 
 void Draw(const DrawOptions& options, Console& console) {
   const std::string ending = FormatNameOf(options);
-  drawing::PictureFormat format{};
-  drawing::FormatFromPath("." + ending, format);
-  const drawing::Style style = ToStyle(options);
+  Look look = ToLook(options);
+  drawing::FormatFromPath("." + ending, look.format);
   ForEachTarget(FindWindows(options.files), options.files.quiet, console, options.target, ending,
                 [&](const Source& source, const std::string& target) {
-                  DrawWindow(source, target, options, style, format);
+                  DrawWindow(source, target, options, look);
                 });
-}
-
-void AddSceneOptions(CLI::App& command, DrawOptions& options) {
-  CLI::Option* inside =
-      command.add_flag("--inside", options.inside, "Draw the window as seen from inside (default)");
-  command
-      .add_flag("--outside", options.outside, "Draw the window as seen from outside, not mirrored")
-      ->excludes(inside);
-  command.add_flag("--no-dims", options.noDimensions, "Leave out the dimensions");
-  command.add_flag("--no-symbols", options.noSymbols, "Leave out the opening symbols");
-  command.add_flag("--hidden-line", options.hiddenLine, "Draw visible edges only, nothing filled");
 }
 
 }  // namespace
@@ -108,32 +97,33 @@ void AddDraw(CLI::App& app, Console& console) {
   const auto options = std::make_shared<DrawOptions>();
   CLI::App* command = app.add_subcommand("draw", "Draw windows");
   AddFiles(*command, options->files, kWindowFiles);
-  AddTarget(*command, options->target,
-            "Picture to write: a name ending in .svg,\n.png or .pdf, a folder/, a pattern like\n"
-            "out/{name}.png or - for standard output")
+  AddTarget(
+      *command, options->target,
+      "Picture to write: a name ending in .svg,\n.dxf, .pdf or .png, a folder/, a pattern like\n"
+      "out/{name}.png or - for standard output")
       ->required();
   command
       ->add_option(
           "--format", options->format,
-          "svg, png or pdf; as the target's ending\ntells where not given, in a folder svg")
-      ->check(CLI::IsMember({"svg", "png", "pdf"}))
+          "svg, dxf, pdf or png; as the target's ending\ntells where not given, in a folder svg")
+      ->check(CLI::IsMember({"svg", "dxf", "pdf", "png"}))
       ->type_name("FORMAT");
   command->add_option("--fit", options->size, "Fit into an opening first")
       ->check(CheckSize)
       ->type_name("WIDTHxHEIGHT");
-  command
-      ->add_option("--settings", options->settings,
-                   "Settings file: pens and the sizes of\ndimensions")
-      ->type_name("FILE");
-  command
-      ->add_option("--materials", options->materials,
-                   "Material file: colours of parts, opening\nsymbols and dimensions")
-      ->type_name("FILE");
-  AddSceneOptions(*command, *options);
+  command->add_flag("--title", options->title, "Write name, size and opening kinds below");
+  command->add_flag("--chains", options->chains,
+                    "Place the dimensions in rows below and left of\nthe drawing");
+  AddPictureOptions(*command, options->common);
+  command->add_option("--width", options->pixels, "Width of a PNG in pixels")
+      ->check(CLI::Range(1, kMostPixels))
+      ->type_name("PIXELS")
+      ->excludes("--dpi");
   command->footer(
       "Examples:\n"
       "  lintavo draw window.aqz -o window.png\n"
       "  lintavo draw window.aqz -o window.svg --fit 180x150 --outside\n"
+      "  lintavo draw window.aqz -o window.pdf --scale 1:20 --title --chains\n"
       "  lintavo draw windows/ -o pictures/ --format pdf --hidden-line");
   command->callback([options, &console] { Draw(*options, console); });
 }

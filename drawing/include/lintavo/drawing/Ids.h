@@ -48,6 +48,9 @@ LINTAVO_DRAWING_API std::string IdOf(ShapeKind kind, long fluegel, long teil);
 /// The id of one straight segment of a part, such as "rahmen-2-segment-0".
 LINTAVO_DRAWING_API std::string SegmentId(ShapeKind kind, long fluegel, long teil, long segment);
 
+/// The id of the line that runs round the window's frame.
+inline constexpr const char* kUmrissId = "umriss";
+
 /// "fluegel-1": a sash with all that belongs to it.
 LINTAVO_DRAWING_API std::string FluegelId(long fluegel);
 

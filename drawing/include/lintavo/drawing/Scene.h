@@ -40,6 +40,13 @@ struct Line {
   Point to;
   bool dashed = false;
   long attribut = 0;  ///< number of its colour, as `Style` tells; 0 for the usual one
+  /// Index of the fitting within its sash; of a visible edge the part's within its kind; of
+  /// extension lines 0 for the start and 1 for the end of what is measured; else -1.
+  long bauteil = -1;
+  ShapeKind teil = ShapeKind::kRahmenteil;  ///< what a visible edge is an edge of
+  /// The side of that part: it begins at this corner of the part's outline. -1 where the edge
+  /// lies on no side of a part, and for lines of other kinds.
+  long seite = -1;
 };
 
 /// The length that is written at a dimension line.
@@ -48,8 +55,18 @@ struct Text {
   Point mitte;           ///< middle of the text
   double hoehe = 0.0;    ///< height of a digit
   bool upright = false;  ///< turned by 90°, so that it reads from bottom to top
-  std::string inhalt;    ///< ASCII
+  std::string inhalt;    ///< ASCII, with "." as the decimal mark
   long attribut = 0;     ///< number of its colour
+};
+
+/// From where a window is seen. Neither view is mirrored: x grows to the right.
+enum class ViewSide { kInside, kOutside };
+
+/// How a sash opens, in the short texts of the macro file.
+struct Oeffnung {
+  std::string gangart;  ///< "Fe", "Dr", "Ki", "Kl", "DK", "HD", "Sw", "We", "Sc", "HS", "Fa", "HSK"
+  std::string anschlag;   ///< "Li", "Re", "Ob", "Un"
+  std::string oeffSeite;  ///< "In", "Au"
 };
 
 /// All that a picture shows. The shapes stand in the order in which they are
@@ -60,6 +77,11 @@ struct Scene {
   std::vector<Shape> shapes{};
   std::vector<Line> lines{};
   std::vector<Text> texts{};
+  std::vector<Point> umriss{};  ///< outline of the window's frame, drawn over the shapes
+  double breite = 0.0;          ///< the window's overall width
+  double hoehe = 0.0;           ///< and height
+  ViewSide side = ViewSide::kInside;
+  std::vector<Oeffnung> fluegel{};  ///< one for each sash
 };
 
 /// Smallest box with sides parallel to the axes.
@@ -70,9 +92,6 @@ struct Box {
   double top = 0.0;
 };
 
-/// From where a window is seen. Neither view is mirrored: x grows to the right.
-enum class ViewSide { kInside, kOutside };
-
 /// What a scene shows of a window.
 struct SceneOptions {
   ViewSide side = ViewSide::kInside;
@@ -80,6 +99,13 @@ struct SceneOptions {
   bool symbols = true;      ///< opening symbols
   bool hiddenLine = false;  ///< visible edges instead of filled shapes
   MeasureSizes sizes;       ///< how large dimensions are drawn
+  /// Places dimension lines in rows below and left of all that is drawn, the shorter ones
+  /// nearer to it, instead of where the window's file puts them.
+  bool chains = false;
+  /// How many of the window's units are one millimetre on paper, as `UnitsPerMillimetre`
+  /// tells: sizes that are not asked for are then those of plans, 2.5 mm for texts. Not
+  /// above zero: sizes suit the window.
+  double millimetre = 0.0;
 };
 
 /// The scene of a calculated window.
@@ -95,7 +121,7 @@ struct SceneOptions {
 /// Fittings sit on the inside and on the side to which their sash opens: from
 /// outside only those of sashes that open outwards are shown.
 ///
-/// Dimension lines lie where the window's file puts them; extension lines reach
+/// Dimension lines lie where the window's file puts them, or in rows; extension lines reach
 /// from those that lie beside the window up to it. The lengths are written
 /// beside the middle of their lines, or wherever nearby they meet no other line;
 /// short dimensions have their arrowheads outside. A dimension without length,
@@ -105,8 +131,8 @@ struct SceneOptions {
 /// gives an empty scene.
 LINTAVO_DRAWING_API Scene BuildScene(const CFeApi& window, const SceneOptions& options = {});
 
-/// The box that a text fills, in the lettering of the pictures: digits drawn with a pen
-/// a tenth as wide as they are high. A host with a font of its own fits its text in.
+/// The box that a text fills, reckoned with the widths of a common sans-serif font. A host
+/// with another font fits its text in, as the pictures do.
 LINTAVO_DRAWING_API Box GetBox(const Text& text);
 
 /// The box of all shapes, lines and texts. False, leaving `box` as it is, when
