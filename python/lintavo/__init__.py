@@ -28,7 +28,15 @@ from .geometry import Box, Line, Point, Polygon
 from .parts import Dimension, Dimensions, FillingKind, Fitting, Part, PartKind
 from .sash import Filling, Sash
 from .position import Position
-from .window import Opening, PictureOptions, Window, find_window_file, stored_name
+from .window import (
+    Opening,
+    PictureOptions,
+    Plan,
+    Unit,
+    Window,
+    find_window_file,
+    stored_name,
+)
 
 __all__ = [
     "Box",
@@ -46,11 +54,13 @@ __all__ = [
     "PartKind",
     "PictureError",
     "PictureOptions",
+    "Plan",
     "Point",
     "Polygon",
     "Position",
     "ReadError",
     "Sash",
+    "Unit",
     "Window",
     "WriteError",
     "find_window_file",

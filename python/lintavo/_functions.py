@@ -225,4 +225,6 @@ DRAWING_FUNCTIONS: Signatures = {
     "lintavo_picture_format_from_path": (INT, [TEXT]),
     "lintavo_window_draw": (INT, [HANDLE, INT, INT, HANDLE]),
     "lintavo_window_draw_to_file": (INT, [HANDLE, INT, INT, TEXT]),
+    "lintavo_window_draw_plan": (INT, [HANDLE, INT, INT, HANDLE, HANDLE]),
+    "lintavo_window_draw_plan_to_file": (INT, [HANDLE, INT, INT, HANDLE, TEXT]),
 }

@@ -8,7 +8,7 @@ import os
 import sys
 import weakref
 from dataclasses import dataclass
-from typing import List, Optional, Tuple, Type, Union
+from typing import Any, List, NamedTuple, Optional, Tuple, Type, Union
 
 from . import _calls, _library
 from ._functions import OpeningStruct
@@ -20,7 +20,7 @@ from .sash import Sash
 Path = Union[str, "os.PathLike[str]"]
 
 _LINE_END = ord("#")
-_SVG, _PDF, _PNG = 0, 1, 2
+_SVG, _PDF, _PNG, _DXF = 0, 1, 2, 3
 _PICTURE_OK = 0
 
 
@@ -71,6 +71,39 @@ class PictureOptions(enum.IntFlag):
     NO_DIMENSIONS = 2  #: without dimension lines and their texts
     NO_SYMBOLS = 4  #: without opening symbols
     VISIBLE_EDGES = 8  #: visible edges instead of filled shapes
+    CHAINS = 16  #: dimension lines in rows below and left of the drawing
+    TITLE = 32  #: name, size, scale and opening kinds below the drawing
+    ENGLISH = 64  #: words in English instead of German
+
+
+class Unit(enum.IntEnum):
+    """What one unit of a window's numbers is."""
+
+    MILLIMETRE = 0
+    CENTIMETRE = 1
+    METRE = 2
+
+
+class Plan(NamedTuple):
+    """How a picture stands on paper."""
+
+    scale: float = 0.0  #: 20 draws to a scale of 1:20; 0 fits into a picture of usual size
+    unit: Unit = Unit.CENTIMETRE  #: only a scale asks for it
+    pixels: int = 0  #: width of a PNG in pixels; 0 leaves that to ``dpi``
+    dpi: float = 0.0  #: pixels per inch of a PNG; 0 is the usual size
+
+
+class _PlanRecord(ctypes.Structure):
+    _fields_ = [
+        ("scale", ctypes.c_double),
+        ("unit", ctypes.c_int),
+        ("pixels", ctypes.c_int),
+        ("dpi", ctypes.c_double),
+    ]
+
+
+def _record_of(plan: Plan) -> Any:
+    return ctypes.byref(_PlanRecord(plan.scale, plan.unit, plan.pixels, plan.dpi))
 
 
 class Window:
@@ -250,31 +283,39 @@ class Window:
         found = _calls.numbers("lintavo_window_get_box", 4, self.handle, overhang)
         return None if found is None else Box(*found)
 
-    def _picture(self, picture_format: int, options: PictureOptions) -> bytes:
+    def _picture(self, picture_format: int, options: PictureOptions, plan: Plan) -> bytes:
         with _calls.record("bytes") as block:
-            draw = _library.drawing().lintavo_window_draw
-            _check_picture(draw(self.handle, picture_format, int(options), block))
+            draw = _library.drawing().lintavo_window_draw_plan
+            _check_picture(
+                draw(self.handle, picture_format, int(options), _record_of(plan), block)
+            )
             return _calls.content_of(block)
 
-    def svg(self, options: PictureOptions = PictureOptions.NONE) -> str:
+    def svg(self, options: PictureOptions = PictureOptions.NONE, plan: Plan = Plan()) -> str:
         """The picture as SVG text. Raises PictureError."""
-        return self._picture(_SVG, options).decode("utf-8")
+        return self._picture(_SVG, options, plan).decode("utf-8")
 
-    def pdf(self, options: PictureOptions = PictureOptions.NONE) -> bytes:
+    def dxf(self, options: PictureOptions = PictureOptions.NONE, plan: Plan = Plan()) -> bytes:
+        """The picture as DXF R12 in the window's own coordinates. Raises PictureError."""
+        return self._picture(_DXF, options, plan)
+
+    def pdf(self, options: PictureOptions = PictureOptions.NONE, plan: Plan = Plan()) -> bytes:
         """The picture as PDF. Raises PictureError."""
-        return self._picture(_PDF, options)
+        return self._picture(_PDF, options, plan)
 
-    def png(self, options: PictureOptions = PictureOptions.NONE) -> bytes:
+    def png(self, options: PictureOptions = PictureOptions.NONE, plan: Plan = Plan()) -> bytes:
         """The picture as PNG. Raises PictureError."""
-        return self._picture(_PNG, options)
+        return self._picture(_PNG, options, plan)
 
-    def draw(self, path: Path, options: PictureOptions = PictureOptions.NONE) -> None:
-        """Draws a file whose ending says the format: svg, pdf, png. Raises PictureError."""
+    def draw(
+        self, path: Path, options: PictureOptions = PictureOptions.NONE, plan: Plan = Plan()
+    ) -> None:
+        """Draws a file whose ending says the format: svg, dxf, pdf, png. Raises PictureError."""
         library = _library.drawing()
         name = encode_path(path)
         picture_format = library.lintavo_picture_format_from_path(name)
-        draw = library.lintavo_window_draw_to_file
-        _check_picture(draw(self.handle, picture_format, int(options), name))
+        draw = library.lintavo_window_draw_plan_to_file
+        _check_picture(draw(self.handle, picture_format, int(options), _record_of(plan), name))
 
     def _repr_svg_(self) -> Optional[str]:
         """What a notebook shows; nothing for a window that cannot be drawn."""

@@ -277,7 +277,12 @@ class Pictures(unittest.TestCase):
                 self.assertTrue(root.tag.endswith("svg"))
 
     def test_the_ending_says_the_format(self):
-        signatures = {"png": b"\x89PNG", "pdf": b"%PDF", "svg": b"<?xml"}
+        signatures = {
+            "png": b"\x89PNG",
+            "pdf": b"%PDF",
+            "svg": b"<?xml",
+            "dxf": b"  0\r\nSECTION",
+        }
         with rectangle_window() as window, tempfile.TemporaryDirectory() as folder:
             for ending, signature in signatures.items():
                 path = Path(folder) / f"bild.{ending}"
@@ -298,6 +303,17 @@ class Pictures(unittest.TestCase):
             self.assertLess(len(window.svg(options.NO_DIMENSIONS | options.NO_SYMBOLS)), full)
             with self.assertRaises(lintavo.PictureError):
                 window.svg(1024)
+
+    def test_plans_are_to_scale_and_as_fine_as_asked_for(self):
+        options = lintavo.PictureOptions.TITLE
+        with rectangle_window() as window:
+            picture = window.svg(options, lintavo.Plan(scale=20))
+            self.assertIn('mm"', picture)
+            self.assertIn("1:20", picture)
+            png = window.png(plan=lintavo.Plan(pixels=300))
+            self.assertEqual(int.from_bytes(png[16:20], "big"), 300)
+            with self.assertRaises(lintavo.PictureError):
+                window.svg(plan=lintavo.Plan(scale=-1.0))
 
     def test_an_empty_window_has_no_picture(self):
         with lintavo.Window() as window:
