@@ -129,8 +129,7 @@ int lintavo_window_draw_plan_to_file(const lintavo_window* window, int format, i
     return LINTAVO_PICTURE_BAD_ARGUMENT;
   return Guarded([&] {
     const PlanOptions made = ToPlan(options, *plan);
-    return static_cast<int>(
-        WritePicture(BuildScene(*FacadeOf(window), ToOptions(options, made)),
-                     static_cast<PictureFormat>(format), path, {}, made));
+    return static_cast<int>(WritePicture(BuildScene(*FacadeOf(window), ToOptions(options, made)),
+                                         static_cast<PictureFormat>(format), path, {}, made));
   });
 }

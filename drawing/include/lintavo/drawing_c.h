@@ -22,9 +22,9 @@ enum {
 /** What a picture shows: any of these added up. 0: filled shapes seen from inside,
  * with dimensions and opening symbols. */
 enum {
-  LINTAVO_VON_AUSSEN = 1,   /**< seen from outside */
-  LINTAVO_OHNE_MASZE = 2,   /**< without dimension lines and their texts */
-  LINTAVO_OHNE_SYMBOLE = 4, /**< without opening symbols */
+  LINTAVO_VON_AUSSEN = 1,    /**< seen from outside */
+  LINTAVO_OHNE_MASZE = 2,    /**< without dimension lines and their texts */
+  LINTAVO_OHNE_SYMBOLE = 4,  /**< without opening symbols */
   LINTAVO_NUR_SICHTBARE = 8, /**< visible edges instead of filled shapes */
   LINTAVO_MASZKETTEN = 16,   /**< dimension lines in rows below and left of the drawing */
   LINTAVO_TITEL = 32,        /**< name, size, scale and opening kinds below the drawing */
@@ -45,13 +45,13 @@ typedef struct lintavo_plan {
 /** How making a picture ended. Note that success is 0 here. */
 enum {
   LINTAVO_PICTURE_OK = 0,
-  LINTAVO_PICTURE_EMPTY = 1,       /**< the window has nothing to draw */
-  LINTAVO_PICTURE_UNBOUNDED = 2,   /**< a coordinate or the extent is no finite number */
-  LINTAVO_PICTURE_FAILED = 3,      /**< the graphics library reported an error */
-  LINTAVO_PICTURE_NOT_WRITTEN = 4, /**< the file cannot be written in full; an old one stays */
-  LINTAVO_PICTURE_NO_GRAPHICS = 5, /**< the library was built without a graphics library */
+  LINTAVO_PICTURE_EMPTY = 1,        /**< the window has nothing to draw */
+  LINTAVO_PICTURE_UNBOUNDED = 2,    /**< a coordinate or the extent is no finite number */
+  LINTAVO_PICTURE_FAILED = 3,       /**< the graphics library reported an error */
+  LINTAVO_PICTURE_NOT_WRITTEN = 4,  /**< the file cannot be written in full; an old one stays */
+  LINTAVO_PICTURE_NO_GRAPHICS = 5,  /**< the library was built without a graphics library */
   LINTAVO_PICTURE_BAD_ARGUMENT = 6, /**< a null argument, an unknown format or option */
-  LINTAVO_PICTURE_TOO_LARGE = 7     /**< a page above 5 m, a PNG above 30000 pixels or 150 million */
+  LINTAVO_PICTURE_TOO_LARGE = 7 /**< a page above 5 m, a PNG above 30000 pixels or 150 million */
 };
 
 /** One English sentence part for a status, "ok" for LINTAVO_PICTURE_OK. The text
