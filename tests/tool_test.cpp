@@ -388,6 +388,8 @@ TEST_F(Tool, ListsAndExportsComeWholeOrNotAtAll) {
     EXPECT_EQ(Run(command + good + " -o '" + target + "'").out, "");
     EXPECT_EQ(ReadBytes(target), plain.out);
     EXPECT_EQ(Run(command + good, "LC_ALL=de_DE.UTF-8").out, plain.out);
+    EXPECT_EQ(Run(command + good + " -q -o '" + Path("each-{name}") + "'").status, 0);
+    EXPECT_EQ(ReadBytes(Path("each-dreiteilig_mit_oberlicht")), plain.out);
   }
   const std::string list = "parts --format csv " + good;
   const std::string csv = Run(list).out;
@@ -401,24 +403,14 @@ TEST_F(Tool, ListsAndExportsComeWholeOrNotAtAll) {
 
 TEST_F(Tool, WrongUsageEndsWithTwo) {
   const std::string file = "'" + kFanlight + "'";
-  for (const std::string& arguments : {std::string(),
-                                       std::string("show"),
-                                       std::string("unknown ") + file,
-                                       "fit " + file + " 100",
-                                       "fit " + file + " 100 0",
-                                       "fit " + file + " 100 -5",
-                                       "fit " + file + " 100,5 100",
-                                       "fit " + file + " nan 100",
-                                       "fit " + file + " 1e999 100",
-                                       "draw " + file,
-                                       "draw " + file + " -o a.gif",
-                                       "draw " + file + " -o a.png --fit 100",
-                                       "draw " + file + " -o a.png --fit 100x0",
-                                       "draw " + file + " -o a.png --inside --outside",
-                                       "draw " + file + " -o a.png --settings",
-                                       "position " + file,
-                                       std::string("position --base ."),
-                                       "form " + file}) {
+  for (const std::string& arguments :
+       {std::string(), std::string("show"), std::string("unknown ") + file, "fit " + file + " 100",
+        "fit " + file + " 100 0", "fit " + file + " 100 -5", "fit " + file + " 100,5 100",
+        "fit " + file + " nan 100", "fit " + file + " 1e999 100", "draw " + file,
+        "draw " + file + " -o a.gif", "draw " + file + " -o a.png --fit 100",
+        "draw " + file + " -o a.png --fit 100x0", "draw " + file + " -o a.png --inside --outside",
+        "draw " + file + " -o a.png --settings", "position " + file,
+        std::string("position --base ."), "form " + file}) {
     const Outcome outcome = Run(arguments);
     EXPECT_EQ(outcome.status, 2) << arguments;
     EXPECT_NE(outcome.err, "") << arguments;

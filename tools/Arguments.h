@@ -15,6 +15,9 @@ inline constexpr const char* kWindowTarget =
     "Window to write: a name ending in aqz or\ncqz, a folder/, a pattern like out/{name}.aqz\n"
     "or - for standard output";
 
+inline constexpr const char* kListTarget =
+    "File to write: a name, a folder/, a pattern\nlike out/{name}.csv or - for standard output";
+
 /// The files that a command works on, one at least, and the flags for several.
 void AddFiles(CLI::App& command, FileArguments& files, const std::string& description);
 

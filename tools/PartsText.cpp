@@ -54,7 +54,7 @@ void PrintWindows(std::span<const PartsWindow> windows, std::size_t first, const
                   NumberText(windows[i].breite, style), NumberText(windows[i].hoehe, style),
                   windows[i].datei});
   }
-  table.Print(out);
+  table.Print(out, style.spalten);
 }
 
 void PrintAbschnitt(const Abschnitt& abschnitt, std::span<const PartsRow> rows,
@@ -72,7 +72,7 @@ void PrintAbschnitt(const Abschnitt& abschnitt, std::span<const PartsRow> rows,
   }
   if (!any) return;
   out << '\n' << abschnitt.titel.In(style.sprache) << '\n';
-  table.Print(out);
+  table.Print(out, style.spalten);
 }
 
 void PrintAbschnitte(std::span<const PartsRow> rows, const PartsStyle& style, std::ostream& out) {

@@ -27,7 +27,8 @@ PartsWindow DescribeWindow(const std::string& file, const CFeApi& window);
 struct PartsStyle {
   Sprache sprache = Sprache::kDeutsch;
   char dezimalzeichen = ',';
-  bool jeFenster = false;  ///< the list was made so
+  bool jeFenster = false;   ///< the list was made so
+  std::size_t spalten = 0;  ///< of the terminal, to which tables are cut; 0 for no limit
 };
 
 /// Prints the windows, then bars, panes and fittings as a table each; where windows are

@@ -7,6 +7,7 @@
 #include "lintavo/api/CFeApi.h"
 
 #include "Arguments.h"
+#include "Batch.h"
 #include "Console.h"
 #include "JsonText.h"
 #include "Output.h"
@@ -26,21 +27,31 @@ struct ExportOptions {
 
 // All windows are read before anything is written: a document breaks off for no fault of
 // a file.
-void Export(const ExportOptions& options, Console& console) {
-  const std::vector<std::string> files = WindowPaths(options.files);
+void ExportTo(const std::string& target, const std::vector<std::string>& files, bool views,
+              Console& console) {
   std::vector<CFeApi> windows(files.size());
   for (std::size_t i = 0; i < windows.size(); ++i) LoadWindow(files[i], windows[i]);
-  WriteOutput(options.target, files, console, [&](std::ostream& out) {
+  WriteOutput(target, files, console, [&](std::ostream& out) {
     JsonWriter json(out);
     json.BeginObject();
     json.Add("schema", kWindowSchema);
     json.BeginArray("windows");
     for (std::size_t i = 0; i < windows.size(); ++i) {
-      WriteWindowJson(files[i], windows[i], options.views, json);
+      WriteWindowJson(files[i], windows[i], views, json);
     }
     json.End();
     json.End();
   });
+}
+
+void Export(const ExportOptions& options, Console& console) {
+  if (!IsForSeveral(options.target)) {
+    return ExportTo(options.target, WindowPaths(options.files), options.views, console);
+  }
+  ForEachTarget(FindWindows(options.files), options.files.quiet, console, options.target, "json",
+                [&](const Source& source, const std::string& own) {
+                  ExportTo(own, {source.path}, options.views, console);
+                });
 }
 
 }  // namespace
@@ -52,8 +63,16 @@ void AddExport(CLI::App& app, Console& console) {
   AddFiles(*command, options->files, kWindowFiles);
   command->add_flag("--json", options->json, "As JSON, the default and only format");
   command->add_flag("--views", options->views,
-                    "Add the views with hidden lines removed, of the window and of each sash");
-  AddTarget(*command, options->target, "File to write, or - for standard output");
+                    "Add the views with hidden lines removed,\nof the window and of each sash");
+  AddTarget(*command, options->target, kListTarget);
+  command->footer(
+      "Several windows make one document, where none of them may fail; into a folder or\n"
+      "by a pattern each makes its own.\n"
+      "\n"
+      "Examples:\n"
+      "  lintavo export --json window.aqz\n"
+      "  lintavo export --json --views windows/ -o windows.json\n"
+      "  lintavo export --json windows/ -r -o data/{name}.json");
   command->callback([options, &console] { Export(*options, console); });
 }
 

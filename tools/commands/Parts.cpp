@@ -7,6 +7,7 @@
 #include "lintavo/api/CFeApi.h"
 
 #include "Arguments.h"
+#include "Batch.h"
 #include "Checks.h"
 #include "Console.h"
 #include "Numbers.h"
@@ -14,6 +15,7 @@
 #include "PartsJson.h"
 #include "PartsList.h"
 #include "PartsText.h"
+#include "System.h"
 #include "WindowFile.h"
 #include "commands/Commands.h"
 
@@ -45,9 +47,8 @@ PartsStyle StyleFrom(const PartsArguments& arguments) {
   return style;
 }
 
-void Write(const PartsArguments& arguments, const PartsList& list,
+void Write(const PartsArguments& arguments, const PartsStyle& style, const PartsList& list,
            const std::vector<PartsWindow>& windows, std::ostream& out) {
-  const PartsStyle style = StyleFrom(arguments);
   if (arguments.format == "json") return WritePartsJson(list, windows, style, out);
   if (arguments.format == "table") return PrintPartsTables(list, windows, style, out);
   if (arguments.mark) out << kByteOrderMark;
@@ -55,15 +56,15 @@ void Write(const PartsArguments& arguments, const PartsList& list,
 }
 
 // A list from which a window is missing would be taken for a whole one: a file that
-// cannot be read ends the run before anything is written.
-void Parts(const PartsArguments& arguments, Console& console) {
+// cannot be read ends it before anything is written.
+void ListTo(const std::string& target, const std::vector<std::string>& files,
+            const PartsArguments& arguments, Console& console) {
   PartsOptions options;
   options.jeFenster = arguments.perWindow;
   double scale = 1.0;
   ParseNumber(arguments.rebate, options.falz);
   ParseNumber(arguments.scale, scale);
   PartsCollector collector(options);
-  const std::vector<std::string> files = WindowPaths(arguments.files);
   std::vector<PartsWindow> windows;
   for (const std::string& file : files) {
     CFeApi window;
@@ -75,21 +76,38 @@ void Parts(const PartsArguments& arguments, Console& console) {
   }
   PartsList list = collector.Sorted();
   Skaliere(scale, list);
-  WriteOutput(arguments.target, files, console,
-              [&](std::ostream& out) { Write(arguments, list, windows, out); });
+  PartsStyle style = StyleFrom(arguments);
+  if (target.empty()) style.spalten = TerminalWidth(Stream::kOut);
+  WriteOutput(target, files, console,
+              [&](std::ostream& out) { Write(arguments, style, list, windows, out); });
+}
+
+void Parts(const PartsArguments& arguments, Console& console) {
+  if (!IsForSeveral(arguments.target)) {
+    return ListTo(arguments.target, WindowPaths(arguments.files), arguments, console);
+  }
+  const std::string ending = arguments.format == "table" ? "txt" : arguments.format;
+  ForEachTarget(FindWindows(arguments.files), arguments.files.quiet, console, arguments.target,
+                ending, [&](const Source& source, const std::string& own) {
+                  ListTo(own, {source.path}, arguments, console);
+                });
 }
 
 void AddFormatOptions(CLI::App& command, PartsArguments& arguments) {
-  command.add_option("--format", arguments.format, "How the list is written; default table")
-      ->check(CLI::IsMember({"table", "csv", "json"}));
-  command.add_option("--lang", arguments.language, "Language of titles and kinds; default de")
-      ->check(CLI::IsMember({"de", "en"}));
+  command.add_option("--format", arguments.format, "table (default), csv or json")
+      ->check(CLI::IsMember({"table", "csv", "json"}))
+      ->type_name("FORMAT");
+  command.add_option("--lang", arguments.language, "Language of the texts: de (default) or en")
+      ->check(CLI::IsMember({"de", "en"}))
+      ->type_name("LANGUAGE");
   command
       .add_option("--decimal", arguments.decimal,
-                  "Decimal sign; default is the language's. In CSV, cells are separated by "
-                  "semicolons beside commas, else by commas")
-      ->check(CLI::IsMember({"comma", "point"}));
-  command.add_flag("--bom", arguments.mark, "Begin CSV with the mark by which Excel knows UTF-8");
+                  "Decimal sign: comma or point; that of the\nlanguage where not given. Beside "
+                  "commas the\ncells of CSV are separated by semicolons")
+      ->check(CLI::IsMember({"comma", "point"}))
+      ->type_name("SIGN");
+  command.add_flag("--bom", arguments.mark,
+                   "Begin CSV with the mark by which Excel sees\nthat it is UTF-8");
 }
 
 }  // namespace
@@ -99,18 +117,30 @@ void AddParts(CLI::App& app, Console& console) {
   CLI::App* command =
       app.add_subcommand("parts", "Print the cutting list: bars, panes and fittings");
   AddFiles(*command, arguments->files, kWindowFiles);
-  command
-      ->add_option("--rebate", arguments->rebate,
-                   "How far panes reach into their frame on every side; default 0")
-      ->check(CheckNumber);
+  AddTarget(*command, arguments->target, kListTarget);
   command->add_flag("--per-window", arguments->perWindow,
                     "List every window by itself, nothing added up");
   command
+      ->add_option("--rebate", arguments->rebate,
+                   "How far panes reach into their frame on\nevery side, in the window's units")
+      ->check(CheckNumber)
+      ->type_name("LENGTH");
+  command
       ->add_option("--scale", arguments->scale,
-                   "Multiply lengths, by 10 for millimetres from centimetres; areas by its square")
-      ->check(CheckLength);
-  AddTarget(*command, arguments->target, "File to write, or - for standard output");
+                   "Multiply what is printed: 10 makes\nmillimetres of centimetres")
+      ->check(CheckLength)
+      ->type_name("FACTOR");
   AddFormatOptions(*command, *arguments);
+  command->footer(
+      "Equal pieces of all windows are added up, and none of the windows may fail; into\n"
+      "a folder or by a pattern each makes a list of its own.\n"
+      "\n"
+      "Examples:\n"
+      "  lintavo parts window.aqz\n"
+      "  lintavo parts kitchen.aqz hall.aqz --per-window\n"
+      "  lintavo parts windows/ --format csv --scale 10 -o list.csv\n"
+      "  lintavo parts windows/ --format json --rebate 1.2 -o lists/\n"
+      "  lintavo fit window.aqz 180 150 -o - | lintavo parts -");
   command->callback([arguments, &console] { Parts(*arguments, console); });
 }
 
