@@ -6,6 +6,7 @@ there is no jsonschema.
 
 import json
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
@@ -46,6 +47,13 @@ def ids_of(value):
     elif isinstance(value, list):
         for member in value:
             yield from ids_of(member)
+
+
+def picture_ids(path):
+    """Ids of parts in the picture of a window; others are groups and hatchings."""
+    picture = subprocess.run([TOOL, "draw", path, "--format", "svg", "-o", "-"], capture_output=True)
+    assert picture.returncode == 0, picture.stderr
+    return set(re.findall(r' id="([^"]*-(?:[0-9]+|fuellung))"', picture.stdout.decode("utf-8")))
 
 
 def points(polygon):
@@ -100,6 +108,8 @@ assert len(document["windows"]) == len(files) > 0
 for exported, path in zip(document["windows"], files):
     ids = list(ids_of(exported))
     assert len(ids) == len(set(ids)), path
+    shown = picture_ids(path)
+    assert shown and shown <= set(ids), (path, shown - set(ids))
     check_window(exported, path)
 
 # Names of any encoding come out as UTF-8, whatever stands in them.
