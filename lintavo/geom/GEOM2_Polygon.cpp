@@ -100,10 +100,6 @@ bool GEOM2_Polygon::SetPunkt(int i, double x, double y) {
   return true;
 }
 
-int GEOM2_Polygon::GetAttribut(int i) const {
-  return IsIndex(i) ? GetEckpunkt(i).Attribut : 0;
-}
-
 void GEOM2_Polygon::SetAttribut(int i, int attribut) {
   if (IsIndex(i)) ecken_[static_cast<std::size_t>(i)].Attribut = attribut;
 }

@@ -48,7 +48,7 @@ class LINTAVO_API GEOM2_Polygon {
   /// Coordinates only; false for a bad index.
   bool SetPunkt(int i, double x, double y);
   /// Attribute of the edge that starts at vertex i; 0 for a bad index.
-  int GetAttribut(int i) const;
+  int GetAttribut(int i) const { return IsIndex(i) ? GetEckpunkt(i).Attribut : 0; }
   /// These three ignore a bad index.
   void SetAttribut(int i, int attribut);
   void SetWert1(int i, double wert);

@@ -69,6 +69,7 @@ class Achssicht {
   bool Kantentangens(double u, double& tangens) const {
     double amStaerksten = -1.0;
     for (std::size_t i = 0; i < ecken_.size(); ++i) {
+      if (IstNeben(ecken_[i], Danach(i))) continue;
       const XY p{ecken_[i].x - u, ecken_[i].y};
       const XY weg = lintavo::Differenz(Danach(i), ecken_[i]);
       const double laenge = lintavo::Betrag(weg);
@@ -85,6 +86,12 @@ class Achssicht {
       tangens = Tangens(weg);
     }
     return amStaerksten >= 0.0;
+  }
+
+  /// Whether an edge keeps clear of the axis, as most do: no need to measure it.
+  static bool IstNeben(const XY& p, const XY& q) {
+    constexpr double kWeit = 1000 * kNullLaenge;
+    return (p.y > kWeit && q.y > kWeit) || (p.y < -kWeit && q.y < -kWeit);
   }
 
   static double Tangens(const XY& weg) {

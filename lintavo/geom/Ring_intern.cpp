@@ -126,8 +126,11 @@ bool SindAlleNoetig(std::span<const XY> ring, std::span<const double> tolLinie, 
   const XY* davor = &ring.back();
   for (std::size_t i = 0; i < ring.size(); ++i) {
     const XY& danach = ring[i + 1 == ring.size() ? 0 : i + 1];
-    if (Abstand(ring[i], danach) <= tolDeckung || Abstand(*davor, danach) <= tolDeckung ||
-        AbstandVonGerade(*davor, danach, ring[i]) <= tolLinie[i]) {
+    const XY weg = Differenz(danach, *davor);
+    const double laenge = Betrag(weg);
+    const double flaeche = std::fabs(Kreuzprodukt(weg, Differenz(ring[i], *davor)));
+    if (laenge <= tolDeckung || flaeche / laenge <= tolLinie[i] ||
+        Abstand(ring[i], danach) <= tolDeckung) {
       return false;
     }
     davor = &ring[i];

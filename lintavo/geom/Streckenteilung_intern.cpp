@@ -50,6 +50,7 @@ class Sicht {
     for (std::size_t i = 0; i < ecken_.size(); ++i) {
       const XY p{ecken_[i].x - u, ecken_[i].y};
       const XY q{Danach(i).x - u, Danach(i).y};
+      if (IstNeben(p, q, tol)) continue;
       if (AbstandVomUrsprung(p, q) <= tol) return true;
       if ((p.y < 0.0) != (q.y < 0.0)) {
         const double rechts = p.x + (q.x - p.x) * (p.y / (p.y - q.y));
@@ -61,6 +62,12 @@ class Sicht {
 
  private:
   const XY& Danach(std::size_t i) const { return ecken_[i + 1 == ecken_.size() ? 0 : i + 1]; }
+
+  /// Whether an edge keeps clear of the segment's line, as most do: no need to measure it.
+  static bool IstNeben(const XY& p, const XY& q, double tol) {
+    const double weit = 1000 * tol;
+    return (p.y > weit && q.y > weit) || (p.y < -weit && q.y < -weit);
+  }
 
   static double AbstandVomUrsprung(const XY& p, const XY& q) {
     const XY weg = Differenz(q, p);

@@ -6,6 +6,7 @@
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/model/CMFenster.h"
 #include "lintavo/resources/StringTable.h"
+#include "lintavo/sash/Auflager_intern.h"
 
 using lintavo::StringId;
 
@@ -150,9 +151,10 @@ void CMFenster::RahmenBauen(bool bPfostenRiegelAutomatisch,
 }
 
 void CMFenster::FluegelBauen(const std::vector<GEOM2_Polygon>& grundformen) {
+  const lintavo::Auflager auflager(rahmen_);
   for (std::size_t i = 0; i < fluegel_.size() && i < grundformen.size(); ++i) {
     CMFensterSatz& fluegel = *fluegel_[i];
-    if (!fluegel.BerechneRahmenPolygon(rahmenAbschnitt_, kGroessteWendung, rahmen_,
+    if (!fluegel.BerechneRahmenPolygon(rahmenAbschnitt_, kGroessteWendung, auflager,
                                        grundformen[i])) {
       // The number counts from 0, as the message always has.
       throw CMException(static_cast<int>(StringId::MeldungKeinFluegelpolygon),

@@ -11,6 +11,8 @@ namespace lintavo {
 namespace {
 
 constexpr int kBogenSegmente = 24;
+// Of an arch at the top and one at the bottom, with its four ends.
+constexpr int kGroessteEckenzahl = 2 * (kBogenSegmente - 1) + 4;
 // Sides of an arch that are no longer than this vanish.
 constexpr double kSeitenHoehe = 0.0001;
 // Clean-up of the finished outline.
@@ -62,6 +64,7 @@ class VollerBogen {
         unten_(HatStich(form.dStichUnten) ? form.dStichUnten : 0.0) {}
 
   void Baue(GEOM2_Polygon& polygon) const {
+    polygon.Reservieren(kGroessteEckenzahl);
     AddUnterkante(polygon);
     AddOberkante(polygon);
     if (polygon.GetAnzahl() >= 3) return;
@@ -153,6 +156,7 @@ void AddEcken(const GEOM2_Polygon& von, int erste, int letzte, GEOM2_Polygon& po
 // moves on, past the neighbour too when the crossing is their common vertex.
 void SchneideStreifen(const GEOM2_Polygon& voll, double links, double rechts,
                       GEOM2_Polygon& outline) {
+  outline.Reservieren(kGroessteEckenzahl);
   int suche = 0;  // edge from which the next search starts
   int folge = 0;  // vertex that comes next in the outline
   Schnitt schnitt;

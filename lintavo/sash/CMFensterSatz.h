@@ -24,6 +24,10 @@ class CIniFile;
 class CMAchsen;
 class CMFenster;
 
+namespace lintavo {
+class Auflager;
+}
+
 /// Shape codes of sashes, the values of `CMFensterSatz::lForm`.
 enum eFluegelFormen : int {
   eFormRechteck = 1,
@@ -159,6 +163,9 @@ class LINTAVO_API CMFensterSatz {
   /// not used.
   bool BerechneRahmenPolygon(double maxLength, double maxAngle, const CMFensterSatz& frame,
                              const GEOM2_Polygon& outline, long unused = 0);
+  /// The same for all sashes of a window, whose frame is looked at once.
+  bool BerechneRahmenPolygon(double maxLength, double maxAngle, const lintavo::Auflager& auflager,
+                             const GEOM2_Polygon& outline);
   /// Creates or updates the frame parts along the frame polygon, mitred so that
   /// their outlines tile the ring between it and the inner contour. False with
   /// fewer than three vertices; throws 19 or 22 when the ring cannot be built.

@@ -97,6 +97,7 @@ void CMFensterSatzRechteck::FormBeiwerteAnpassen(bool horizontal, const CMAchsen
 bool CMFensterSatzRechteck::BerechneGrundform(const XY& p1, const XY& p2, const XY&, const XY&,
                                               GEOM2_Polygon& outline) {
   outline.Clear();
+  outline.Reservieren(2 * kAnzahlEcken);
   const lintavo::PlazierungsBox box = lintavo::PlazierungsBoxVon(p1, p2);
   AddEcke({{box.xmin, box.ymin}, 1.0, 1.0, true}, FormBeiwertX[2].dWert, FormBeiwertY[2].dWert,
           outline);

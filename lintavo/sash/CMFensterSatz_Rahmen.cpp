@@ -3,14 +3,17 @@
 #include <algorithm>
 #include <cmath>
 
-#include "lintavo/geom/Seitendeckung.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/model/CMException.h"
+#include "lintavo/platform/Arbeitsspeicher_intern.h"
 #include "lintavo/resources/StringTable.h"
+#include "lintavo/sash/Auflager_intern.h"
 #include "lintavo/sash/CMFensterSatz.h"
 #include "lintavo/sash/Zusatzteilkette_intern.h"
 
 namespace {
+
+using lintavo::Liste;
 
 constexpr double kVollkreis = 360.0;
 
@@ -75,9 +78,10 @@ struct Innenecken {
 // inner vertex names the side that it starts. A side without an inner one has
 // vanished between its neighbours: its cuts aim at the corner in which these
 // meet, which is the end of the last side before it that is still there.
-std::vector<Innenecken> InneneckenJeSeite(const GEOM2_Polygon& innen, std::size_t anzahlSeiten) {
-  std::vector<Innenecken> ecken(anzahlSeiten);
-  std::vector<bool> vorhanden(anzahlSeiten, false);
+Liste<Innenecken> InneneckenJeSeite(const GEOM2_Polygon& innen, std::size_t anzahlSeiten,
+                                    lintavo::Speicher speicher) {
+  Liste<Innenecken> ecken(anzahlSeiten, speicher);
+  Liste<bool> vorhanden(anzahlSeiten, false, speicher);
   for (int j = 0; j < innen.GetAnzahl(); ++j) {
     const auto seite = static_cast<std::size_t>(innen.GetEckpunkt(j).dWert2);
     const Seite innenSeite = SeiteVon(innen, j);
@@ -113,40 +117,12 @@ void SetzeUeberBreite(CMBauteil& bauteil, const Seite& seite, const Innenecken& 
   if (std::fabs(ueberBreite) >= lintavo::kNullLaenge) bauteil.SetUeberBreite(ueberBreite);
 }
 
-// The frame part of the first side of `frame` that the given side lies on.
-bool FindeRahmenSeite(const CMFensterSatz& frame, const Seite& seite, double& breite) {
-  for (int i = 0; i < frame.RahmenPolygon.GetAnzahl(); ++i) {
-    const Seite rahmenSeite = SeiteVon(frame.RahmenPolygon, i);
-    if (!lintavo::SeitenDecken(seite.a, seite.b, rahmenSeite.a, rahmenSeite.b)) continue;
-    const CMBauteil* bauteil = frame.GetBauteilPtr(frame.RahmenPolygon, i);
-    breite = bauteil ? bauteil->dBreite : 0.0;
-    return true;
-  }
-  return false;
-}
-
-// The mullion or transom on whose axis the given side lies.
-const CMBauteil* FindePfosten(const CMFensterSatz& frame, const Seite& seite) {
-  for (const CMBauteil& bauteil : frame.EinzelTeile) {
-    XY a;
-    XY b;
-    if (!bauteil.IsRahmenteil() || !bauteil.GetAchspunkte(a, b)) continue;
-    if (lintavo::SeitenDecken(seite.a, seite.b, a, b)) return &bauteil;
-  }
-  return nullptr;
-}
-
-// How far a sash moves in from one side of its outline: negative, by the width
-// of what it lies on, less the overlap. A side that lies on nothing moves
-// outwards by the overlap alone, on purpose: the sash covers what is there.
-double EinzugDerSeite(const CMFensterSatz& frame, const Seite& seite, double ueberschlag) {
+// How far a sash moves in from one side of its outline: negative, by what it lies
+// on less the overlap. A side that lies on nothing moves outwards by the overlap
+// alone, on purpose: the sash covers what is there.
+double EinzugDerSeite(const lintavo::Auflager& auflager, const Seite& seite, double ueberschlag) {
   if (std::hypot(seite.b.x - seite.a.x, seite.b.y - seite.a.y) < lintavo::kNullLaenge) return 0.0;
-  double breite = 0.0;
-  if (FindeRahmenSeite(frame, seite, breite)) return ueberschlag - breite;
-  if (const CMBauteil* pfosten = FindePfosten(frame, seite)) {
-    return ueberschlag - 0.5 * pfosten->dBreite;
-  }
-  return ueberschlag;
+  return ueberschlag - auflager.Einzug(seite.a, seite.b);
 }
 
 }  // namespace
@@ -156,52 +132,47 @@ long CMFensterSatz::RahmenSegmenteZusammenfassen(double maxLength, double maxAng
   const int count = polygon.GetAnzahl();
   if (count == 0 || lForm < eFormRechteck) return -1;
 
-  std::vector<double> richtung(static_cast<std::size_t>(count));
-  for (int i = 0; i < count; ++i) {
-    polygon.SetAttribut(i, 0);
-    richtung[static_cast<std::size_t>(i)] = RichtungInGrad(SeiteVon(polygon, i));
-  }
+  lintavo::Arbeitsspeicher speicher;
+  Liste<double> richtung(&speicher);
+  richtung.reserve(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) richtung.push_back(RichtungInGrad(SeiteVon(polygon, i)));
   const auto turn = [&](int from, int to) {
     return InsVolleKreisMasz(richtung[static_cast<std::size_t>(to)] -
                              richtung[static_cast<std::size_t>(from)]);
   };
+  // A vertical side is the straight end of an arch and stays a part of its own.
+  const auto isVertical = [&](int i) {
+    return std::fabs(std::cos(richtung[static_cast<std::size_t>(i)] * lintavo::kPi / 180.0)) <=
+           lintavo::kNullLaenge;
+  };
   const auto isMergeSide = [&](int i) {
     const bool bent =
         turn((i + count - 1) % count, i) < maxAngle || turn(i, (i + 1) % count) < maxAngle;
-    // A vertical side is the straight end of an arch and stays a part of its own.
-    const bool vertical =
-        std::fabs(std::cos(richtung[static_cast<std::size_t>(i)] * lintavo::kPi / 180.0)) <=
-        lintavo::kNullLaenge;
-    return bent && polygon.GetKantenLaenge(i) < maxLength && !vertical;
+    return bent && polygon.GetKantenLaenge(i) < maxLength && !isVertical(i);
   };
 
   // A run of merge sides shares a number. The run across the ring's start is
   // not joined: side 0 always opens a part of its own.
-  int number = 0;
-  bool previousMerges = isMergeSide(count - 1);
+  int number = -1;
+  bool previousMerges = false;
   for (int i = 0; i < count; ++i) {
     const bool merges = isMergeSide(i);
-    if (!merges && previousMerges) ++number;
+    if (!merges || !previousMerges) ++number;
     polygon.SetAttribut(i, number);
-    if (!merges) ++number;
     previousMerges = merges;
   }
-
-  int lowest = polygon.GetAttribut(0);
-  int highest = lowest;
-  for (int i = 1; i < count; ++i) {
-    lowest = std::min(lowest, polygon.GetAttribut(i));
-    highest = std::max(highest, polygon.GetAttribut(i));
-  }
-  for (int i = 0; lowest > 0 && i < count; ++i) {
-    polygon.SetAttribut(i, polygon.GetAttribut(i) - lowest);
-  }
-  return highest - lowest + 1;
+  return number + 1;
 }
 
 bool CMFensterSatz::BerechneRahmenPolygon(double maxLength, double maxAngle,
                                           const CMFensterSatz& frame, const GEOM2_Polygon& outline,
                                           long) {
+  return BerechneRahmenPolygon(maxLength, maxAngle, lintavo::Auflager(frame), outline);
+}
+
+bool CMFensterSatz::BerechneRahmenPolygon(double maxLength, double maxAngle,
+                                          const lintavo::Auflager& auflager,
+                                          const GEOM2_Polygon& outline) {
   // A sash without a frame keeps no parts of its own: its overlap is always the
   // template's, also before the first calculation has dropped stored parts.
   if (!bMitRahmen) RahmenTeile.clear();
@@ -212,11 +183,13 @@ bool CMFensterSatz::BerechneRahmenPolygon(double maxLength, double maxAngle,
     RahmenTeile.resize(static_cast<std::size_t>(parts), RahmenVorlage);
   }
 
-  std::vector<double> distances(static_cast<std::size_t>(sides.GetAnzahl()));
+  lintavo::Arbeitsspeicher speicher;
+  Liste<double> distances(&speicher);
+  distances.reserve(sides.GetEcken().size());
   for (int i = 0; i < sides.GetAnzahl(); ++i) {
     const CMBauteil* bauteil = GetBauteilPtr(sides, i);
-    distances[static_cast<std::size_t>(i)] =
-        EinzugDerSeite(frame, SeiteVon(sides, i), bauteil ? bauteil->dBreite2 : 0.0);
+    distances.push_back(
+        EinzugDerSeite(auflager, SeiteVon(sides, i), bauteil ? bauteil->dBreite2 : 0.0));
   }
   RahmenPolygon.Clear();
   if (!sides.ParallelPolygon(distances.data(), RahmenPolygon, true)) return false;
@@ -234,7 +207,8 @@ bool CMFensterSatz::ErzeugeRahmenBauteile() {
   if (count < 3) return false;
   BauteileDenSeitenZuordnen();
 
-  std::vector<Innenecken> ecken;
+  lintavo::Arbeitsspeicher speicher;
+  Liste<Innenecken> ecken(&speicher);
   bool seitenVerschwunden = false;
   {
     // Every vertex carries its own index through the offset, which tells
@@ -243,7 +217,7 @@ bool CMFensterSatz::ErzeugeRahmenBauteile() {
     for (int i = 0; i < count; ++i) seiten.SetWert2(i, i);
     GEOM2_Polygon innen;
     if (!InnenPolygon(false, seiten, innen)) ThrowRahmenpolygon();
-    ecken = InneneckenJeSeite(innen, static_cast<std::size_t>(count));
+    ecken = InneneckenJeSeite(innen, static_cast<std::size_t>(count), &speicher);
     seitenVerschwunden = innen.GetAnzahl() != count;
   }
 
@@ -280,9 +254,11 @@ template <class Gilt>
 bool CMFensterSatz::AussenPolygon(Gilt gilt, GEOM2_Polygon& out) const {
   const int count = RahmenPolygon.GetAnzahl();
   if (count < 3) return false;
-  std::vector<double> distances(static_cast<std::size_t>(count), 0.0);
+  lintavo::Arbeitsspeicher speicher;
+  Liste<double> distances(&speicher);
+  distances.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) {
-    if (gilt(i)) distances[static_cast<std::size_t>(i)] = GetAbstandZurRahmenAussenSeite(i);
+    distances.push_back(gilt(i) ? GetAbstandZurRahmenAussenSeite(i) : 0.0);
   }
   if (!RahmenPolygon.ParallelPolygon(distances.data(), out, true)) ThrowFlaecheNull();
   return true;
@@ -305,9 +281,11 @@ bool CMFensterSatz::InnenPolygon(bool mitZusatzteilen, const GEOM2_Polygon& poly
                                  GEOM2_Polygon& out) const {
   const int count = polygon.GetAnzahl();
   if (count < 3) return false;
-  std::vector<double> distances(static_cast<std::size_t>(count));
+  lintavo::Arbeitsspeicher speicher;
+  Liste<double> distances(&speicher);
+  distances.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) {
-    distances[static_cast<std::size_t>(i)] = -GetAbstandZurRahmenInnenSeite(mitZusatzteilen, i);
+    distances.push_back(-GetAbstandZurRahmenInnenSeite(mitZusatzteilen, i));
   }
   if (!polygon.ParallelPolygon(distances.data(), out, true)) ThrowFlaecheNull();
   return true;

@@ -1,5 +1,6 @@
 // Glazing bars: single ones, bars laid by a pattern, and their cut to the
 // inner contour of the sash.
+#include <algorithm>
 #include <cmath>
 
 #include "lintavo/geom/Toleranzen.h"
@@ -25,6 +26,11 @@ constexpr long kSprossenZahlen = 4;
 void Normalisiere(GEOM2_Polygon& contour) {
   contour.SetOrientierung(true);
   contour.Bereinigen(lintavo::kNullLaenge);
+}
+
+bool HatZusatzteilInnen(const std::vector<CMBauteil>& teile) {
+  return std::any_of(teile.begin(), teile.end(),
+                     [](const CMBauteil& teil) { return teil.IsZusatzteilInnen(); });
 }
 
 bool HatLaenge(const GEOM2_Achse& achse) {
@@ -134,6 +140,9 @@ CMBauteil* CMFensterSatz::AddSprosse(const CMBauteil& vorlage, const XY& p1, con
 }
 
 void CMFensterSatz::ClippSprossen() {
+  // Without bars only the error of a sash whose inner extra parts leave no room matters;
+  // without those its frame parts would have met the same contour.
+  if (Sprossen.empty() && bMitRahmen && !HatZusatzteilInnen(EinzelTeile)) return;
   GEOM2_Polygon contour;
   if (!ErzeugeRahmenInnenPolygon(true, contour)) return;
   for (int i = 0; i < contour.GetAnzahl(); ++i) {
