@@ -90,6 +90,22 @@ std::optional<double> ParseUnsigned(std::string_view text) {
   return value;
 }
 
+// Whole numbers below 2^53 but for a negative zero, which keeps its sign: most numbers
+// of a file, and ten times as quick to write.
+bool IsPlainWhole(double value) {
+  constexpr double kBound = 0x1p53;
+  if (!(std::fabs(value) < kBound)) return false;
+  const auto whole = lintavo::Truncate<long long>(value);
+  const bool isWhole = static_cast<double>(whole) == value;  // exact: nothing is left behind
+  return isWhole && !(whole == 0 && std::signbit(value));
+}
+
+CString FormatWhole(long long value) {
+  char buffer[24];
+  const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+  return std::string_view(buffer, static_cast<std::size_t>(result.ptr - buffer));
+}
+
 }  // namespace
 
 namespace lintavo {
@@ -105,6 +121,7 @@ double ParseNumber(std::string_view text) {
 }
 
 CString FormatNumber(double value) {
+  if (IsPlainWhole(value)) return FormatWhole(lintavo::Truncate<long long>(value));
   // The largest double has 309 digits before the point.
   char buffer[336];
   const auto result =
