@@ -168,6 +168,11 @@ TEST(Parts, AWindowsListIsThatWorkedOut) {
     EXPECT_TRUE(pane.rechteckig) << i;
     EXPECT_EQ(pane.stellen.size(), i == 2 ? 2u : 1u);
   }
+  const std::vector<Profil> profile = ProfileOf(list, false);
+  ASSERT_EQ(profile.size(), 4u);
+  EXPECT_EQ(profile[1].anzahl, 12u);
+  EXPECT_NEAR(profile[1].laenge, 2 * 229 + 4 * 121.5 + 4 * 52 + 2 * 36.5, 1e-6);
+
   ASSERT_EQ(list.beschlaege.size(), 2u);
   EXPECT_EQ(list.beschlaege[0].stellen.size(), 3u);
   EXPECT_EQ(list.beschlaege[1].stellen.size(), 6u);

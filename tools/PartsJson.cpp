@@ -61,6 +61,18 @@ Json RowOf(const Beschlaege& beschlaege, const PartsStyle& style) {
   return row;
 }
 
+Json RowOf(const Profil& profil, const PartsStyle& style) {
+  Json row;
+  row["kind"] = ArtSchluessel(profil.art);
+  row["label"] = ArtWort(profil.art).In(style.sprache);
+  row["window"] = style.jeFenster ? Json(profil.fenster) : Json(nullptr);
+  row["count"] = profil.anzahl;
+  row["width"] = JsonNumber(profil.breite);
+  row["thickness"] = JsonNumber(profil.dicke);
+  row["totalLength"] = JsonNumber(profil.laenge);
+  return row;
+}
+
 template <class Zeile>
 void AddRows(const char* key, const std::vector<Zeile>& zeilen, const PartsStyle& style,
              JsonWriter& json) {
@@ -92,6 +104,7 @@ void WritePartsJson(const PartsList& list, const std::vector<PartsWindow>& windo
   AddRows("bars", list.staebe, style, json);
   AddRows("panes", list.scheiben, style, json);
   AddRows("fittings", list.beschlaege, style, json);
+  AddRows("sections", ProfileOf(list, style.jeFenster), style, json);
   json.End();
 }
 

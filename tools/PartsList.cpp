@@ -120,6 +120,21 @@ PartsList PartsCollector::Sorted() const {
   return sorted;
 }
 
+std::vector<Profil> ProfileOf(const PartsList& list, bool jeFenster) {
+  std::vector<Profil> profile;
+  for (const Stab& stab : list.staebe) {
+    const std::size_t fenster = stab.stellen.front().fenster;
+    const bool same = !profile.empty() && profile.back().art == stab.art &&
+                      Stufe(profile.back().breite) == Stufe(stab.breite) &&
+                      Stufe(profile.back().dicke) == Stufe(stab.dicke) &&
+                      (!jeFenster || profile.back().fenster == fenster);
+    if (!same) profile.push_back({stab.art, stab.breite, stab.dicke, fenster});
+    profile.back().anzahl += stab.stellen.size();
+    profile.back().laenge += stab.laenge * static_cast<double>(stab.stellen.size());
+  }
+  return profile;
+}
+
 void Skaliere(double faktor, PartsList& list) {
   for (Stab& stab : list.staebe) {
     for (double* masz : {&stab.laenge, &stab.achslaenge, &stab.breite, &stab.dicke, &stab.radius}) {

@@ -75,6 +75,19 @@ struct PartsList {
   std::vector<Beschlaege> beschlaege{};
 };
 
+/// All bars of one section together, for whoever orders them.
+struct Profil {
+  TeilArt art = TeilArt::kRahmen;
+  double breite = 0.0;
+  double dicke = 0.0;
+  std::size_t fenster = 0;  ///< of its first piece
+  std::size_t anzahl = 0;
+  double laenge = 0.0;  ///< of all blanks, without what the saw wastes
+};
+
+/// The sections of a sorted list, in its order; of every window by itself on request.
+std::vector<Profil> ProfileOf(const PartsList& list, bool jeFenster);
+
 struct PartsOptions {
   double falz = 0.0;       ///< how far panes reach into the rebate of their frame, on every side
   bool jeFenster = false;  ///< nothing is added up over several windows

@@ -75,6 +75,22 @@ void PrintAbschnitt(const Abschnitt& abschnitt, std::span<const PartsRow> rows,
   table.Print(out, style.spalten);
 }
 
+void PrintProfile(std::span<const Profil> profile, const PartsStyle& style, std::ostream& out) {
+  if (profile.empty()) return;
+  Table table({ColumnOf(Spalte::kAnzahl, style),
+               ColumnOf(Spalte::kTeil, style),
+               ColumnOf(Spalte::kBreite, style),
+               ColumnOf(Spalte::kDicke, style),
+               {kGesamtlaengeWort.In(style.sprache), Table::Align::kRight}});
+  for (const Profil& profil : profile) {
+    table.AddRow({std::to_string(profil.anzahl), ArtWort(profil.art).In(style.sprache),
+                  NumberText(profil.breite, style), NumberText(profil.dicke, style),
+                  NumberText(profil.laenge, style)});
+  }
+  out << '\n' << kProfileWort.In(style.sprache) << '\n';
+  table.Print(out, style.spalten);
+}
+
 void PrintAbschnitte(std::span<const PartsRow> rows, const PartsStyle& style, std::ostream& out) {
   for (const Abschnitt& abschnitt : kAbschnitte) PrintAbschnitt(abschnitt, rows, style, out);
 }
@@ -103,9 +119,11 @@ std::vector<Spalte> CsvSpalten(const PartsStyle& style) {
 void PrintPartsTables(const PartsList& list, const std::vector<PartsWindow>& windows,
                       const PartsStyle& style, std::ostream& out) {
   const std::vector<PartsRow> rows = RowsOf(list, windows, style);
+  const std::vector<Profil> profile = ProfileOf(list, style.jeFenster);
   if (!style.jeFenster) {
     PrintWindows(windows, 0, style, out);
     PrintAbschnitte(rows, style, out);
+    PrintProfile(profile, style, out);
     return;
   }
   for (std::size_t i = 0; i < windows.size(); ++i) {
@@ -113,8 +131,12 @@ void PrintPartsTables(const PartsList& list, const std::vector<PartsWindow>& win
     std::vector<PartsRow> own;
     std::copy_if(rows.begin(), rows.end(), std::back_inserter(own),
                  [=](const PartsRow& row) { return row.fenster == i; });
+    std::vector<Profil> ownProfile;
+    std::copy_if(profile.begin(), profile.end(), std::back_inserter(ownProfile),
+                 [=](const Profil& profil) { return profil.fenster == i; });
     PrintWindows({&windows[i], 1}, i, style, out);
     PrintAbschnitte(own, style, out);
+    PrintProfile(ownProfile, style, out);
   }
 }
 

@@ -31,8 +31,8 @@ struct PartsStyle {
   std::size_t spalten = 0;  ///< of the terminal, to which tables are cut; 0 for no limit
 };
 
-/// Prints the windows, then bars, panes and fittings as a table each; where windows are
-/// kept apart, every window's tables follow it.
+/// Prints the windows, then bars, panes, fittings and sections as a table each; where
+/// windows are kept apart, every window's tables follow it.
 void PrintPartsTables(const PartsList& list, const std::vector<PartsWindow>& windows,
                       const PartsStyle& style, std::ostream& out);
 

@@ -43,6 +43,8 @@ const char* ArtSchluessel(TeilArt art);
 Wort SpaltenTitel(Spalte spalte);
 
 inline constexpr Wort kStaebeWort{"Stäbe", "Bars"};
+inline constexpr Wort kProfileWort{"Profile", "Sections"};
+inline constexpr Wort kGesamtlaengeWort{"Gesamtlänge", "Total length"};
 inline constexpr Wort kScheibenWort{"Scheiben und Paneele", "Panes and panels"};
 inline constexpr Wort kBeschlaegeWort{"Beschläge", "Fittings"};
 inline constexpr Wort kRechteckWort{"Rechteck", "rectangle"};
