@@ -28,12 +28,11 @@ bool IsMittig(TeilArt art, const CMBauteil& bauteil) {
 }
 
 // One straight segment, seen along its axis: the lengths of its two long edges, and how
-// far its outline reaches along and across the axis.
+// far its outline reaches.
 struct Segmentmasze {
   double rechts = 0.0;
   double links = 0.0;
   double laengs = 0.0;
-  double quer = 0.0;
 };
 
 Segmentmasze MesseSegment(const CMBauteil& bauteil, long i) {
@@ -46,7 +45,7 @@ Segmentmasze MesseSegment(const CMBauteil& bauteil, long i) {
   XY min;
   XY max;
   umriss.GetMinMax(min, max);
-  return {x(1) - x(0), x(2) - x(3), max.x - min.x, max.y - min.y};
+  return {x(1) - x(0), x(2) - x(3), max.x - min.x};
 }
 
 std::vector<XY> Achsecken(const CMBauteil& bauteil) {
@@ -160,9 +159,8 @@ Stab MesseStab(TeilArt art, const CMBauteil& bauteil) {
   stab.dicke = bauteil.dDicke;
   stab.segmente = bauteil.lGetAnzAchsen();
   if (stab.segmente == 0) return stab;
-  const Segmentmasze erstes = MesseSegment(bauteil, 0);
-  stab.laenge = erstes.laengs;
-  stab.breite = erstes.quer;
+  stab.laenge = MesseSegment(bauteil, 0).laengs;
+  stab.breite = std::fabs(bauteil.dBreite + bauteil.dUeberBreite);
   stab.achslaenge = bauteil.GetAchsLaenge();
   stab.winkelAnfang = bauteil.Achse(0).dWinkelAnfang;
   stab.winkelEnde = bauteil.Achse(stab.segmente - 1).dWinkelEnde;
