@@ -2,29 +2,63 @@
 #include "Arguments.h"
 
 #include <memory>
+#include <sstream>
+#include <vector>
+
+#include "lintavo/drawing/Text.h"
+
+#include "Text.h"
 
 namespace lintavo::tools {
 namespace {
 
-constexpr std::size_t kColumnWidth = 26;
+constexpr std::size_t kNamesWidth = 26;
+constexpr std::size_t kWordsWidth = 80 - kNamesWidth;
+
+// Lines are broken at blanks.
+std::string Wrapped(const std::string& text) {
+  std::string wrapped;
+  std::size_t column = 0;
+  std::istringstream words(text);
+  for (std::string word; words >> word;) {
+    const std::size_t length = CharacterCount(word);
+    const bool fits = column == 0 || column + 1 + length <= kWordsWidth;
+    if (column > 0) wrapped += fits ? ' ' : '\n';
+    column = fits ? column + (column > 0 ? 1 : 0) + length : length;
+    wrapped += word;
+  }
+  return wrapped;
+}
+
+// The words to choose from, else what is asked for; the parser has both in one text,
+// and the range of a number behind it.
+std::string ValueText(const CLI::Option& option) {
+  const std::string text = option.get_type_name();
+  const std::size_t choice = text.find('{');
+  if (choice != std::string::npos) return text.substr(choice);
+  const std::size_t range = text.find(" in [");
+  return range == std::string::npos ? text : text.substr(0, text.rfind(':', range));
+}
 
 class PlainHelp : public CLI::Formatter {
  public:
-  PlainHelp() { column_width(kColumnWidth); }
+  PlainHelp() {
+    column_width(kNamesWidth);
+    label("Positionals", "Arguments");
+  }
 
   // What must be given stands in the line, not in words beside each option.
   std::string make_usage(const CLI::App* app, std::string name) const override {
-    std::string line = "Usage: " + name;
-    const auto options = app->get_options([](const CLI::Option* o) { return o->nonpositional(); });
-    for (const CLI::Option* option : options) {
-      if (option->get_required()) line += " " + option->get_name() + " " + option->get_type_name();
-    }
-    for (const CLI::Option* option :
-         app->get_options([](const CLI::Option* o) { return o->get_positional(); })) {
-      line += " " + make_option_name(option, true);
+    std::string line = "\nUsage: " + name;
+    for (const CLI::Option* option : app->get_options()) {
+      if (option->get_positional()) {
+        line += " " + make_option_name(option, true);
+      } else if (option->get_required()) {
+        line += " " + option->get_name() + " " + ValueText(*option);
+      }
     }
     if (!app->get_subcommands({}).empty()) line += " COMMAND";
-    return "\n" + line + " [OPTIONS]\n";
+    return line + " [OPTIONS]\n";
   }
 
   std::string make_option_name(const CLI::Option* option, bool positional) const override {
@@ -35,9 +69,26 @@ class PlainHelp : public CLI::Formatter {
 
   std::string make_option_opts(const CLI::Option* option) const override {
     if (option->get_positional() || option->get_type_size() == 0) return {};
-    return " " + option->get_type_name();
+    return " " + ValueText(*option);
+  }
+
+  std::string make_option_desc(const CLI::Option* option) const override {
+    return Wrapped(option->get_description());
   }
 };
+
+// The parser's own words where it knows better than we what is wrong.
+std::string WordsFor(const CLI::App& app, const CLI::Error& error) {
+  const std::vector<CLI::App*> commands = app.get_subcommands();
+  if (!commands.empty()) {
+    return std::string(error.what()) + "; see 'lintavo " + commands.front()->get_name() +
+           " --help'";
+  }
+  const std::vector<std::string> words = app.remaining();
+  if (words.empty()) return "no command is named; 'lintavo --help' lists them";
+  return "there is no command or option '" + drawing::ToDisplayText(words.front()) +
+         "'; 'lintavo --help' lists them";
+}
 
 }  // namespace
 
@@ -55,8 +106,11 @@ CLI::Option* AddTarget(CLI::App& command, std::string& target, const std::string
   return command.add_option("-o,--output", target, description)->type_name("TARGET");
 }
 
-void UsePlainHelp(CLI::App& app) {
+void UsePlainWords(CLI::App& app) {
   app.formatter(std::make_shared<PlainHelp>());
+  app.failure_message([](const CLI::App* failed, const CLI::Error& error) {
+    return "lintavo: " + WordsFor(*failed, error) + '\n';
+  });
 }
 
 }  // namespace lintavo::tools

@@ -9,14 +9,14 @@
 namespace lintavo::tools {
 
 inline constexpr const char* kWindowFiles =
-    "Windows (aqz, cqz), folders of them,\nor - for standard input";
+    "Windows (aqz, cqz), folders of them, or - for standard input";
 
 inline constexpr const char* kWindowTarget =
-    "Window to write: a name ending in aqz or\ncqz, a folder/, a pattern like out/{name}.aqz\n"
-    "or - for standard output";
+    "Window to write: a name ending in aqz or cqz, a folder/, a pattern like out/{name}.aqz, or - "
+    "for standard output";
 
 inline constexpr const char* kListTarget =
-    "File to write: a name, a folder/, a pattern\nlike out/{name}.csv or - for standard output";
+    "File to write: a name, a folder/, a pattern like out/{name}.csv or - for standard output";
 
 /// The files that a command works on, one at least, and the flags for several.
 void AddFiles(CLI::App& command, FileArguments& files, const std::string& description);
@@ -27,7 +27,8 @@ void AddFlagsForSeveral(CLI::App& command, FileArguments& files);
 /// "-o,--output TARGET"; may be a folder or a pattern, see `FindTargets`.
 CLI::Option* AddTarget(CLI::App& command, std::string& target, const std::string& description);
 
-/// Help without the parser's own words, on lines of at most 80 characters.
-void UsePlainHelp(CLI::App& app);
+/// Help and messages without the parser's own words. Descriptions are broken into lines
+/// that keep help within 80 columns.
+void UsePlainWords(CLI::App& app);
 
 }  // namespace lintavo::tools

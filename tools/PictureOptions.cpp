@@ -31,11 +31,11 @@ void AddPaperOptions(CLI::App& command, PictureOptions& options) {
       ->type_name("1:N");
   command
       .add_option("--unit", options.unit,
-                  "What one unit of a window is: mm, m or, where\nnot given, cm")
+                  "What one unit of a window is: mm, m or, where not given, cm")
       ->check(CLI::IsMember({"mm", "cm", "m"}))
       ->type_name("UNIT");
   command
-      .add_option("--lang", options.language, "Language of the words: en or, where not given,\nde")
+      .add_option("--lang", options.language, "Language of the words: en or, where not given, de")
       ->check(CLI::IsMember({"de", "en"}))
       ->type_name("LANG");
   command.add_option("--dpi", options.dpi, "Pixels per inch of a PNG")
@@ -55,12 +55,11 @@ void AddPictureOptions(CLI::App& command, PictureOptions& options) {
   command.add_flag("--no-symbols", options.noSymbols, "Leave out the opening symbols");
   command.add_flag("--hidden-line", options.hiddenLine, "Draw visible edges only, nothing filled");
   command
-      .add_option("--settings", options.settings,
-                  "Settings file: pens and the sizes of\ndimensions")
+      .add_option("--settings", options.settings, "Settings file: pens and the sizes of dimensions")
       ->type_name("FILE");
   command
       .add_option("--materials", options.materials,
-                  "Material file: colours of parts, opening\nsymbols and dimensions")
+                  "Material file: colours of parts, opening symbols and dimensions")
       ->type_name("FILE");
   AddPaperOptions(command, options);
 }

@@ -2,6 +2,7 @@
 #include "Table.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "Text.h"
@@ -9,7 +10,8 @@
 namespace lintavo::tools {
 namespace {
 
-constexpr std::size_t kIndent = 2;
+constexpr std::size_t kGap = 2;
+constexpr std::size_t kNarrowGap = 1;
 // Below this a column of text says nothing any more.
 constexpr std::size_t kTextMin = 8;
 
@@ -33,12 +35,14 @@ void Table::AddRow(std::vector<std::string> cells) {
 
 void Table::Print(std::ostream& out, std::size_t width) const {
   std::vector<std::size_t> widths = Widths();
-  if (width > 0) Narrow(widths, width);
+  const std::size_t whole = std::accumulate(widths.begin(), widths.end(), widths.size() * kGap);
+  const bool fits = width == 0 || whole <= width;
+  if (!fits) Narrow(widths, width);
+  const std::string gap(fits ? kGap : kNarrowGap, ' ');
   for (const std::vector<std::string>& row : rows_) {
     std::string line;
     for (std::size_t i = 0; i < row.size(); ++i) {
-      line += std::string(kIndent, ' ') +
-              Padded(CutTo(row[i], widths[i]), widths[i], columns_[i].align);
+      line += gap + Padded(CutTo(row[i], widths[i]), widths[i], columns_[i].align);
     }
     line.erase(line.find_last_not_of(' ') + 1);
     out << line << '\n';
@@ -60,7 +64,7 @@ void Table::Narrow(std::vector<std::size_t>& widths, std::size_t width) const {
   std::size_t widest = widths.size();
   std::size_t whole = 0;
   for (std::size_t i = 0; i < widths.size(); ++i) {
-    whole += kIndent + widths[i];
+    whole += kNarrowGap + widths[i];
     if (columns_[i].align == Align::kRight) continue;
     if (widest == widths.size() || widths[i] > widths[widest]) widest = i;
   }

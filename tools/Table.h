@@ -24,8 +24,8 @@ class Table {
   void AddRow(std::vector<std::string> cells);
 
   /// Prints the head and all rows, indented by two blanks, without trailing blanks.
-  /// Where that takes more than `width` columns, the widest column of text is cut;
-  /// 0 is no limit.
+  /// Where that takes more than `width` columns, they stand closer, and the widest
+  /// column of text is cut; 0 is no limit.
   void Print(std::ostream& out, std::size_t width = 0) const;
 
  private:

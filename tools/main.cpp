@@ -35,11 +35,12 @@ int Run(int argc, char** argv) {
   app.set_help_flag("-h,--help", "Print this help and exit");
   app.footer(kFooter);
   app.require_subcommand(1);
-  UsePlainHelp(app);
+  UsePlainWords(app);
   // A path may begin with a slash.
   app.allow_windows_style_options(false);
   Console console(std::cout, std::cerr);
   for (const AddCommand add : AllCommands()) add(app, console);
+  for (CLI::App* command : app.get_subcommands({})) command->group("Commands");
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -95,12 +95,12 @@ void AddConvert(CLI::App& app, Console& console) {
   CLI::App* command = app.add_subcommand("convert", "Convert plain, compressed and buffer forms");
   AddFiles(*command, options->files, kWindowFiles);
   AddTarget(*command, options->target,
-            "File to write: a name, a folder/, a pattern\nlike out/{name}.cqz or - for standard\n"
+            "File to write: a name, a folder/, a pattern like out/{name}.cqz or - for standard "
             "output")
       ->required();
   command
       ->add_option("--to", options->form,
-                   "Form to write: aqz (plain), cqz (compressed)\nor buffer (lines end with #);\n"
+                   "Form to write: aqz (plain), cqz (compressed) or buffer (lines end with #); "
                    "as the target's ending tells where not given")
       ->check(CLI::IsMember({"aqz", "cqz", "buffer"}))
       ->type_name("FORM");

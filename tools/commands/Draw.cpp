@@ -99,13 +99,13 @@ void AddDraw(CLI::App& app, Console& console) {
   AddFiles(*command, options->files, kWindowFiles);
   AddTarget(
       *command, options->target,
-      "Picture to write: a name ending in .svg,\n.dxf, .pdf or .png, a folder/, a pattern like\n"
+      "Picture to write: a name ending in .svg, .dxf, .pdf or .png, a folder/, a pattern like "
       "out/{name}.png or - for standard output")
       ->required();
   command
       ->add_option(
           "--format", options->format,
-          "svg, dxf, pdf or png; as the target's ending\ntells where not given, in a folder svg")
+          "svg, dxf, pdf or png; as the target's ending tells where not given, in a folder svg")
       ->check(CLI::IsMember({"svg", "dxf", "pdf", "png"}))
       ->type_name("FORMAT");
   command->add_option("--fit", options->size, "Fit into an opening first")
@@ -113,7 +113,7 @@ void AddDraw(CLI::App& app, Console& console) {
       ->type_name("WIDTHxHEIGHT");
   command->add_flag("--title", options->title, "Write name, size and opening kinds below");
   command->add_flag("--chains", options->chains,
-                    "Place the dimensions in rows below and left of\nthe drawing");
+                    "Place the dimensions in rows below and left of the drawing");
   AddPictureOptions(*command, options->common);
   command->add_option("--width", options->pixels, "Width of a PNG in pixels")
       ->check(CLI::Range(1, kMostPixels))

@@ -63,7 +63,7 @@ void AddExport(CLI::App& app, Console& console) {
   AddFiles(*command, options->files, kWindowFiles);
   command->add_flag("--json", options->json, "As JSON, the default and only format");
   command->add_flag("--views", options->views,
-                    "Add the views with hidden lines removed,\nof the window and of each sash");
+                    "Add the views with hidden lines removed, of the window and of each sash");
   AddTarget(*command, options->target, kListTarget);
   command->footer(
       "Several windows make one document, where none of them may fail; into a folder or\n"

@@ -67,7 +67,7 @@ void AddFit(CLI::App& app, Console& console) {
   CLI::App* command = app.add_subcommand("fit", "Fit windows into a wall opening");
   command
       ->add_option("FILE", options->words,
-                   "Windows (aqz, cqz), folders of them,\nor - for standard input; then the\n"
+                   "Windows (aqz, cqz), folders of them, or - for standard input; then the "
                    "opening's size, also as WIDTHxHEIGHT")
       ->required()
       ->option_text("FILE... WIDTH HEIGHT");

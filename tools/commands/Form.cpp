@@ -33,9 +33,9 @@ void AddForm(CLI::App& app, Console& console) {
   const auto options = std::make_shared<FormOptions>();
   CLI::App* command = app.add_subcommand("form", "Write windows' blank parameter forms");
   AddFiles(*command, options->files,
-           "Windows (aqz, cqz or a type's ini),\nfolders of them, or - for standard input");
+           "Windows (aqz, cqz or a type's ini), folders of them, or - for standard input");
   AddTarget(*command, options->target,
-            "Form to write: a name, a folder/, a pattern\nlike out/{name}.txt or - for standard\n"
+            "Form to write: a name, a folder/, a pattern like out/{name}.txt or - for standard "
             "output")
       ->required();
   command->footer(

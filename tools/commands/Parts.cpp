@@ -102,12 +102,12 @@ void AddFormatOptions(CLI::App& command, PartsArguments& arguments) {
       ->type_name("LANGUAGE");
   command
       .add_option("--decimal", arguments.decimal,
-                  "Decimal sign: comma or point; that of the\nlanguage where not given. Beside "
-                  "commas the\ncells of CSV are separated by semicolons")
+                  "Decimal sign: comma or point; that of the language where not given. Beside "
+                  "commas the cells of CSV are separated by semicolons")
       ->check(CLI::IsMember({"comma", "point"}))
       ->type_name("SIGN");
   command.add_flag("--bom", arguments.mark,
-                   "Begin CSV with the mark by which Excel sees\nthat it is UTF-8");
+                   "Begin CSV with the mark by which Excel sees that it is UTF-8");
 }
 
 }  // namespace
@@ -122,12 +122,12 @@ void AddParts(CLI::App& app, Console& console) {
                     "List every window by itself, nothing added up");
   command
       ->add_option("--rebate", arguments->rebate,
-                   "How far panes reach into their frame on\nevery side, in the window's units")
+                   "How far panes reach into their frame on every side, in the window's units")
       ->check(CheckNumber)
       ->type_name("LENGTH");
   command
       ->add_option("--scale", arguments->scale,
-                   "Multiply what is printed: 10 makes\nmillimetres of centimetres")
+                   "Multiply what is printed: 10 makes millimetres of centimetres")
       ->check(CheckLength)
       ->type_name("FACTOR");
   AddFormatOptions(*command, *arguments);

@@ -38,10 +38,10 @@ void AddPosition(CLI::App& app, Console& console) {
   const auto options = std::make_shared<PositionOptions>();
   CLI::App* command = app.add_subcommand("position", "Make the windows of parameter files");
   AddFiles(*command, options->files,
-           "Parameter files, folders of them (txt),\nor - for standard input");
+           "Parameter files, folders of them (txt), or - for standard input");
   command
       ->add_option("--base", options->base,
-                   "Folder with the types in Fenster and the\npatterns in Sprossen")
+                   "Folder with the types in Fenster and the patterns in Sprossen")
       ->required()
       ->type_name("FOLDER");
   AddTarget(*command, options->target, kWindowTarget);

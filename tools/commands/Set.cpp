@@ -104,7 +104,7 @@ void AddSet(CLI::App& app, Console& console) {
   CLI::App* command = app.add_subcommand("set", "Give named dimensions new lengths");
   command
       ->add_option("FILE", options->words,
-                   "Windows (aqz, cqz), folders of them,\nor - for standard input; then\n"
+                   "Windows (aqz, cqz), folders of them, or - for standard input; then "
                    "dimensions by name, in any case")
       ->required()
       ->option_text("FILE... NAME=LENGTH...");
