@@ -28,7 +28,7 @@ field() { dpkg-deb --field "$1" "$2"; }
 dpkg-deb --extract "$runtime" "$scratch/runtime"
 dpkg-deb --extract "$development" "$scratch/development"
 find_in() { find "$scratch/$1" -name "$2" | grep -q . || fail "no $2 in the $1 package"; }
-for name in lintavo 'liblintavo.so.1' 'liblintavo-drawing.so.1'; do find_in runtime "$name"; done
+for name in lintavo 'liblintavo.so.1' 'liblintavo-drawing.so.1' lintavo.1 _lintavo; do find_in runtime "$name"; done
 for name in liblintavo.so CFeApi.h lintavo_c.h drawing_c.h lintavo.pc lintavo-drawing.pc \
   lintavoConfig.cmake; do
   find_in development "$name"

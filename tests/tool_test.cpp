@@ -1,4 +1,6 @@
 // The `lintavo` command, run as a user runs it: output, messages, exit statuses.
+#include "support/Tool.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -7,7 +9,6 @@
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include "support/PictureFile.h"
 
@@ -16,20 +17,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::string kExamples = LINTAVO_EXAMPLES_DIR "/";
-const std::string kWindows = kExamples + "windows/";
-const std::string kFanlight = kWindows + "dreiteilig_mit_oberlicht.aqz";
-
-struct Outcome {
-  int status = -1;
-  std::string out;
-  std::string err;
-};
-
-bool Contains(const std::string& text, const std::string& part) {
-  return text.find(part) != std::string::npos;
-}
-
 // An SVG file with all its attributes as name:value, in whichever of the two forms that
 // SVG allows they stand.
 std::string Attributes(std::string svg) {
@@ -37,41 +24,6 @@ std::string Attributes(std::string svg) {
   std::replace(svg.begin(), svg.end(), '=', ':');
   return svg;
 }
-
-// Runs the command in a folder of its own, which is removed afterwards.
-class Tool : public ::testing::Test {
- protected:
-  void SetUp() override {
-    folder_ = fs::temp_directory_path() / ("lintavo_tool_" + std::to_string(getpid()));
-    fs::create_directories(folder_);
-  }
-
-  void TearDown() override { fs::remove_all(folder_); }
-
-  std::string Path(const std::string& name) const { return (folder_ / name).string(); }
-
-  // `arguments` are words for the shell.
-  Outcome Run(const std::string& arguments, const std::string& environment = "") const {
-    const std::string out = Path("stdout");
-    const std::string err = Path("stderr");
-    const std::string line = environment + " '" LINTAVO_TOOL "' " + arguments + " >'" + out +
-                             "' 2>'" + err + "' </dev/null";
-    const int raw = std::system(line.c_str());
-    return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, ReadBytes(out), ReadBytes(err)};
-  }
-
-  // The command fails with one line on standard error that holds `message`.
-  void ExpectError(const std::string& arguments, const std::string& message) const {
-    const Outcome outcome = Run(arguments);
-    EXPECT_EQ(outcome.status, 1) << arguments;
-    EXPECT_EQ(outcome.out, "") << arguments;
-    EXPECT_TRUE(Contains(outcome.err, message)) << outcome.err;
-    EXPECT_EQ(outcome.err.find('\n'), outcome.err.size() - 1) << outcome.err;
-  }
-
- private:
-  fs::path folder_;
-};
 
 TEST_F(Tool, ShowsPlainAndCompressedWindows) {
   const Outcome plain = Run("show '" + kFanlight + "'");
@@ -225,6 +177,7 @@ TEST_F(Tool, AFullDiskLeavesTheOldFilesUntouched) {
   const std::string target = Path("alt.svg");
   for (const std::string& command :
        {"draw '" + kFanlight + "'", "fit '" + kFanlight + "' 240 175", "form '" + kFanlight + "'",
+        "convert '" + kFanlight + "' --to aqz",
         "position '" + kExamples + "Positionen/diele.txt' --base '" + kExamples + "'"}) {
     std::ofstream(target) << "old content";
     // Files may have 512 or 1024 bytes in this shell, depending on which it is.
@@ -403,14 +356,33 @@ TEST_F(Tool, ListsAndExportsComeWholeOrNotAtAll) {
 
 TEST_F(Tool, WrongUsageEndsWithTwo) {
   const std::string file = "'" + kFanlight + "'";
-  for (const std::string& arguments :
-       {std::string(), std::string("show"), std::string("unknown ") + file, "fit " + file + " 100",
-        "fit " + file + " 100 0", "fit " + file + " 100 -5", "fit " + file + " 100,5 100",
-        "fit " + file + " nan 100", "fit " + file + " 1e999 100", "draw " + file,
-        "draw " + file + " -o a.gif", "draw " + file + " -o a.png --fit 100",
-        "draw " + file + " -o a.png --fit 100x0", "draw " + file + " -o a.png --inside --outside",
-        "draw " + file + " -o a.png --settings", "position " + file,
-        std::string("position --base ."), "form " + file}) {
+  for (const std::string& arguments : {std::string(),
+                                       std::string("show"),
+                                       std::string("unknown ") + file,
+                                       "fit " + file + " 100",
+                                       "fit " + file + " 100 0",
+                                       "fit " + file + " 100 -5",
+                                       "fit " + file + " 100,5 100",
+                                       "fit " + file + " nan 100",
+                                       "fit " + file + " 1e999 100",
+                                       "draw " + file,
+                                       "draw " + file + " -o a.gif",
+                                       "draw " + file + " -o a.png --fit 100",
+                                       "draw " + file + " -o a.png --fit 100x0",
+                                       "draw " + file + " -o a.png --inside --outside",
+                                       "draw " + file + " -o a.png --settings",
+                                       "position " + file,
+                                       std::string("position --base ."),
+                                       "form " + file,
+                                       "draw " + file + " -o -",
+                                       std::string("check"),
+                                       "set " + file,
+                                       "set " + file + " Breite=0",
+                                       "set " + file + " Breite=breit",
+                                       "convert " + file,
+                                       "convert " + file + " -o a.txt",
+                                       "convert " + file + " -o a.cqz --to zip",
+                                       "show --unknown " + file}) {
     const Outcome outcome = Run(arguments);
     EXPECT_EQ(outcome.status, 2) << arguments;
     EXPECT_NE(outcome.err, "") << arguments;

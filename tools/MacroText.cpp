@@ -91,7 +91,8 @@ std::string PlainBytes(const std::vector<std::string>& lines) {
                          std::to_string(lines[i].size()) + " bytes; a plain file's lines have " +
                          std::to_string(kPlainLineMax) + " at most");
     }
-    if (i > 0 && lines[i].starts_with('[')) text += '\n';
+    if (lines[i].empty()) continue;
+    if (!text.empty() && lines[i].starts_with('[')) text += '\n';
     text += lines[i] + '\n';
   }
   return text;
