@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
@@ -49,8 +50,16 @@ class Kette {
 
   /// The corner in which side i starts.
   XY& Ecke(std::size_t i) { return glieder_[i].ecke; }
-  /// The turn at that corner.
-  double& Wendung(std::size_t i) { return glieder_[i].wendung; }
+  /// The turn at that corner, with those of the sides that were dropped there. Reckoned
+  /// when it is asked for, which few corners are.
+  double Wendung(std::size_t i) {
+    Glied& glied = glieder_[i];
+    if (!glied.wendung) {
+      const std::size_t davor = i == 0 ? seiten_.size() - 1 : i - 1;
+      glied.wendung = Drehung(seiten_[davor].richtung, seiten_[i].richtung);
+    }
+    return *glied.wendung;
+  }
   std::size_t Davor(std::size_t i) const { return glieder_[i].davor; }
   std::size_t Danach(std::size_t i) const { return glieder_[i].danach; }
   bool IstDa(std::size_t i) const { return glieder_[i].da; }
@@ -68,7 +77,7 @@ class Kette {
     XY ecke;
     if (!GeradenSchneiden(seiten_[p].hinten, seiten_[q].vorn, ecke)) return false;
     glieder_[q].ecke = ecke;
-    glieder_[q].wendung += glieder_[i].wendung;
+    if (geschlossen_) glieder_[q].wendung = Wendung(q) + Wendung(i);
     Aushaengen(i);
     return true;
   }
@@ -95,7 +104,7 @@ class Kette {
     std::size_t davor = 0;
     std::size_t danach = 0;
     XY ecke;
-    double wendung = 0.0;
+    std::optional<double> wendung;
     bool da = true;
   };
 
@@ -175,10 +184,7 @@ GeschlosseneKette VerschwundeneSeitenLoeschen(const Liste<Kettenseite>& seiten,
   if (n < 3 || ecken.size() != n) return ergebnis;
 
   Kette kette(seiten, true);
-  for (std::size_t i = 0; i < n; ++i) {
-    kette.Ecke(i) = ecken[i];
-    kette.Wendung(i) = Drehung(seiten[kette.Davor(i)].richtung, seiten[i].richtung);
-  }
+  for (std::size_t i = 0; i < n; ++i) kette.Ecke(i) = ecken[i];
   Liste<std::size_t> offen(n, seiten.get_allocator());
   for (std::size_t i = 0; i < n; ++i) offen[i] = n - 1 - i;
   while (!offen.empty()) {

@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <tuple>
 
 #include "lintavo/geom/Seitendeckung.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
 #include "lintavo/model/CMFenster.h"
+#include "lintavo/platform/Arbeitsspeicher_intern.h"
 
 using lintavo::Differenz;
 using lintavo::Kreuzprodukt;
@@ -215,6 +217,15 @@ std::vector<Stab> StaebeAus(std::vector<CMBauteil>& teile) {
   return staebe;
 }
 
+// Exact: whether nothing was changed.
+bool SindGleich(const GEOM2_Achse& a, const GEOM2_Achse& b) {
+  const auto felder = [](const GEOM2_Achse& achse) {
+    return std::tie(achse.Start.x, achse.Start.y, achse.dLaenge, achse.dWinkel, achse.dWinkelAnfang,
+                    achse.dWinkelEnde);
+  };
+  return felder(a) == felder(b);
+}
+
 // Cuts all ends back once. True when a bar became shorter.
 bool EndenZurueckschneiden(std::vector<CMBauteil>& teile) {
   const std::vector<Stab> staebe = StaebeAus(teile);
@@ -256,6 +267,9 @@ void CMFenster::PfostenUndRiegelAutomatischSetzen(const GEOM2_Polygon& innen,
 
 void CMFenster::PfostenUndRiegelVerschneiden(const GEOM2_Polygon& innen) {
   if (innen.GetAnzahl() < 3) return;
+  lintavo::Arbeitsspeicher speicher;
+  lintavo::Liste<GEOM2_Achse> amRahmen(&speicher);
+  amRahmen.reserve(rahmen_.EinzelTeile.size());
   for (CMBauteil& bauteil : rahmen_.EinzelTeile) {
     if (!bauteil.IsRahmenteil()) continue;
     if (bauteil.GetAchsLaenge() <= lintavo::kNullLaenge) {
@@ -269,15 +283,20 @@ void CMFenster::PfostenUndRiegelVerschneiden(const GEOM2_Polygon& innen) {
     if (!innen.AchseClippen(bauteil.Achse(0), 0.5 * bauteil.dBreite)) {
       bauteil.Achse(0).dLaenge = 0.0;
     }
+    amRahmen.push_back(bauteil.Achse(0));
   }
   // An end that was cut back may now lie in a bar that it did not touch before.
   // Going on until every end rests leaves nothing for a second calculation.
   for (int pass = 0; pass < kMaxSchnittgaenge; ++pass) {
     if (!EndenZurueckschneiden(rahmen_.EinzelTeile)) break;
   }
-  // A shorter axis leaves less room for the lean of a cut at the frame.
+  // A shorter axis leaves less room for the lean of a cut at the frame. One that nothing
+  // was cut off is cut already.
+  auto vorher = amRahmen.begin();
   for (CMBauteil& bauteil : rahmen_.EinzelTeile) {
-    if (!bauteil.IsRahmenteil() || bauteil.GetAchsLaenge() <= lintavo::kNullLaenge) continue;
+    if (!bauteil.IsRahmenteil()) continue;
+    if (SindGleich(bauteil.Achse(0), *vorher++)) continue;
+    if (bauteil.GetAchsLaenge() <= lintavo::kNullLaenge) continue;
     if (!innen.AchseClippen(bauteil.Achse(0), 0.5 * bauteil.dBreite)) {
       bauteil.Achse(0).dLaenge = 0.0;
     }

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "lintavo/geom/Toleranzen.h"
+#include "lintavo/geom/Vektor_intern.h"
 #include "lintavo/model/CMException.h"
 #include "lintavo/platform/Arbeitsspeicher_intern.h"
 #include "lintavo/resources/StringTable.h"
@@ -51,15 +52,28 @@ struct Seitenpunkt {
   double v;
 };
 
-Seitenpunkt InSeite(const Seite& seite, const XY& p) {
-  const double dx = seite.b.x - seite.a.x;
-  const double dy = seite.b.y - seite.a.y;
-  const double laenge = std::hypot(dx, dy);
-  if (laenge < lintavo::kNullLaenge) ThrowRahmenpolygon();
-  const double px = p.x - seite.a.x;
-  const double py = p.y - seite.a.y;
-  return {(px * dx + py * dy) / laenge, (dx * py - dy * px) / laenge};
-}
+class Seitenrahmen {
+ public:
+  explicit Seitenrahmen(const Seite& seite)
+      : ursprung_(seite.a),
+        dx_(seite.b.x - seite.a.x),
+        dy_(seite.b.y - seite.a.y),
+        laenge_(std::hypot(dx_, dy_)) {
+    if (laenge_ < lintavo::kNullLaenge) ThrowRahmenpolygon();
+  }
+
+  Seitenpunkt Lage(const XY& p) const {
+    const double px = p.x - ursprung_.x;
+    const double py = p.y - ursprung_.y;
+    return {(px * dx_ + py * dy_) / laenge_, (dx_ * py - dy_ * px) / laenge_};
+  }
+
+ private:
+  XY ursprung_;
+  double dx_;
+  double dy_;
+  double laenge_;
+};
 
 // Lean of the cut that runs from a side's end at `u0` to an inner corner.
 double Schnittwinkel(const Seitenpunkt& innenEcke, double u0) {
@@ -105,15 +119,16 @@ Liste<Innenecken> InneneckenJeSeite(const GEOM2_Polygon& innen, std::size_t anza
 void LegeAchse(CMBauteil& bauteil, const Seite& seite, const Innenecken& ecken) {
   GEOM2_Achse achse;
   if (!GEOM2_Polygon::SetAchse(seite.a, seite.b, achse)) ThrowRahmenpolygon();
-  achse.dWinkelAnfang = Schnittwinkel(InSeite(seite, ecken.anfang), 0.0);
-  achse.dWinkelEnde = Schnittwinkel(InSeite(seite, ecken.ende), achse.dLaenge);
+  const Seitenrahmen rahmen(seite);
+  achse.dWinkelAnfang = Schnittwinkel(rahmen.Lage(ecken.anfang), 0.0);
+  achse.dWinkelEnde = Schnittwinkel(rahmen.Lage(ecken.ende), achse.dLaenge);
   bauteil.AddAchse(achse);
 }
 
 // A straight part whose side vanished inside reaches past its own width, up to
 // the corner in which its neighbours meet.
 void SetzeUeberBreite(CMBauteil& bauteil, const Seite& seite, const Innenecken& ecken) {
-  const double ueberBreite = InSeite(seite, ecken.ende).v - bauteil.dBreite;
+  const double ueberBreite = Seitenrahmen(seite).Lage(ecken.ende).v - bauteil.dBreite;
   if (std::fabs(ueberBreite) >= lintavo::kNullLaenge) bauteil.SetUeberBreite(ueberBreite);
 }
 
@@ -121,7 +136,7 @@ void SetzeUeberBreite(CMBauteil& bauteil, const Seite& seite, const Innenecken& 
 // on less the overlap. A side that lies on nothing moves outwards by the overlap
 // alone, on purpose: the sash covers what is there.
 double EinzugDerSeite(const lintavo::Auflager& auflager, const Seite& seite, double ueberschlag) {
-  if (std::hypot(seite.b.x - seite.a.x, seite.b.y - seite.a.y) < lintavo::kNullLaenge) return 0.0;
+  if (lintavo::Abstand(seite.a, seite.b) < lintavo::kNullLaenge) return 0.0;
   return ueberschlag - auflager.Einzug(seite.a, seite.b);
 }
 
