@@ -178,6 +178,20 @@ TEST(Zusatzmasz, BetweenCornerPointsMovesTheFrameCorner) {
   ErwarteFehler(fenster, 24, "Schräge");
 }
 
+// Two sashes under one straight edge: the left one keeps its top, so the edge bends.
+TEST(Zusatzmasz, ACornerThatMovesBendsTheSideThatSashesShare) {
+  CMFenster fenster = Raster(2, 1, 50.0, 80.0);
+  CMKnoten corner;
+  corner.SetEckpu(2, 1, 100.0, 80.0);
+  CMZusatzMasz masz;
+  masz.SetVertikal(CMKnoten(0, 0), corner);
+  masz.dLaenge = 60.0;
+  fenster.AddZusatzMasz(masz);
+  ASSERT_TRUE(fenster.Berechne(false));
+  // 50 x 80 and a trapezium 50 wide, 80 and 60 high.
+  EXPECT_NEAR(fenster.GetRahmenPtr()->RahmenPolygon.GetFlaeche(), 4000.0 + 3500.0, 1e-9);
+}
+
 TEST(Zusatzmasz, TheSizeFollowsCornersThatMoveInwards) {
   CMFenster fenster = Raster(1, 1, 100.0, 80.0);
   for (const double x : {0.0, 100.0}) {

@@ -176,6 +176,27 @@ TEST(Rahmenteile, AVanishedChamferReachesTheCommonInnerCorner) {
   EXPECT_NEAR(umriss.GetEckpunkt(2).y, 70.0, 1e-9);
 }
 
+// Beside a wide upright part the first segments of a narrow arch vanish inside; the
+// arch's cut runs straight to the corner in which what is left of it starts.
+TEST(Rahmenteile, AWideNeighbourSwallowsTheFootOfAnArch) {
+  for (const double stich : {30.0, 50.0}) {
+    CMFenster fenster;
+    fenster.GetRahmenPtr()->SetRahmenDefaults(4.0, 6.8, 0.0, 1, 2);
+    for (const double x : {0.0, 100.0}) fenster.GetAchsen().AddVerti(x);
+    for (const double y : {0.0, 150.0}) fenster.GetAchsen().AddHori(y);
+    CMFensterSatz& fluegel = *fenster.AddFluegel(eFormBogen, 0, CMKnoten(0, 0), CMKnoten(1, 1));
+    fluegel.dStich = stich;
+    fluegel.bKorbbogen = true;
+    ASSERT_TRUE(fenster.Berechne(false));
+    CMFensterSatz& rahmen = *fenster.GetRahmenPtr();
+    ASSERT_EQ(rahmen.RahmenTeile.size(), 4u);
+    rahmen.RahmenTeile[1].dBreite = 9.0;  // right
+    rahmen.RahmenTeile[3].dBreite = 6.0;  // left
+    ASSERT_TRUE(fenster.Berechne(false));
+    ErwarteAlleParketts(fenster, "rise " + std::to_string(stich));
+  }
+}
+
 TEST(Rahmenteile, NumberingMergesBentRunsButNeverVerticalSides) {
   GEOM2_Polygon polygon;
   polygon.AddPunkt(0.0, 0.0);

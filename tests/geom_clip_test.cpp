@@ -61,6 +61,14 @@ TEST(AchseClippen, WhereAParallelMissesTheEdgeDecides) {
   ErwarteAchse(achse, 0, 1, 19, 0, -45);
 }
 
+// The axis ends on a flat roof, over which the left parallel passes; the right one ends at
+// the wall, 3 below and 3 behind: the cut does not follow the roof far past the wall.
+TEST(AchseClippen, AFlatEdgeDoesNotSendTheCutPastItsNeighbour) {
+  GEOM2_Achse achse = Achse({-5, 8}, {25, 8});
+  EXPECT_TRUE(Poly("(0,0) (20,0) (20,7.7) (0,9.7)").AchseClippen(achse, 3));
+  ErwarteAchse(achse, 0, 8, 17, 0, -45);
+}
+
 TEST(AchseClippen, KeepsTheLongestPieceAndNeverLengthens) {
   const GEOM2_Polygon kerbe = Poly("(0,0) (20,0) (20,10) (8,10) (8,5) (6,5) (6,10) (0,10)");
   GEOM2_Achse achse = Achse({-5, 7}, {25, 7});

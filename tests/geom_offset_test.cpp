@@ -1,4 +1,5 @@
 // Offset and clean-up of outlines.
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <random>
@@ -158,6 +159,30 @@ TEST(Versatz, HostileDistancesGiveNothing) {
   EXPECT_EQ(Versetzt(Rechteck(0, 0, 10, 10), 1e308).GetAnzahl(), 0);
   EXPECT_EQ(Versetzt(Rechteck(0, 0, nan, 10), 1).GetAnzahl(), 0);
   EXPECT_EQ(Versetzt(GEOM2_Polygon(), {}).GetAnzahl(), 0);
+}
+
+// A notch and a chamfer that vanishes: the outline is put together anew, but the corners
+// of the flat arc, whose sides turn by 0.6 degrees, stay exact: 1000 - 10 / cos (0.3).
+TEST(Offset, CornersOfAFlatArcStayExactWhereASideVanishes) {
+  GEOM2_Polygon p = Poly("(0,2) (2,0) (40,0) (40,5) (60,5) (60,0) (100,0)");
+  const XY mitte{50, -900};
+  std::vector<XY> erwartet;
+  for (int k = 0; k < 9; ++k) {
+    const double winkel = (87.6 + 0.6 * k) * lintavo::kPi / 180;
+    p.AddPunkt(mitte.x + 1000 * std::cos(winkel), mitte.y + 1000 * std::sin(winkel));
+    const double radius = 1000 - 10 / std::cos(0.3 * lintavo::kPi / 180);
+    if (k == 0 || k == 8) continue;  // beside other sides
+    erwartet.push_back({mitte.x + radius * std::cos(winkel), mitte.y + radius * std::sin(winkel)});
+  }
+  const GEOM2_Polygon innen = Versetzt(p, std::vector<double>(16, -10.0));
+  for (const XY& ecke : erwartet) {
+    double naechste = 1e30;
+    for (int i = 0; i < innen.GetAnzahl(); ++i) {
+      const GEOM2_Eckpunkt& q = innen.GetEckpunkt(i);
+      naechste = std::min(naechste, std::hypot(q.x - ecke.x, q.y - ecke.y));
+    }
+    EXPECT_LT(naechste, 1e-9) << ecke.x << ", " << ecke.y;
+  }
 }
 
 TEST(Bereinigen, DropsRepeatedAndCollinearVertices) {

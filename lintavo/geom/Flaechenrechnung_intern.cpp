@@ -151,12 +151,18 @@ class Herkunft {
     return {a, Differenz(ecken_[ecken_[kante].danach].quelle.ort, a)};
   }
 
-  /// The crossing of two edges, reckoned anew in doubles.
+  /// The crossing of two edges, reckoned anew in doubles. Rounding moves it far along
+  /// edges that meet at a small angle, such as neighbours in an arch.
   XY Kreuzung(const IntPoint& p, std::size_t ein, std::size_t aus) const {
     const XY gerundet = raster_.Doppelt(p);
+    const Gerade a = Gerade_(ein);
+    const Gerade b = Gerade_(aus);
     XY genau;
-    if (!GeradenSchneiden(Gerade_(ein), Gerade_(aus), genau)) return gerundet;
-    return Abstand(genau, gerundet) <= 2 * kRundung * raster_.Schritt() ? genau : gerundet;
+    if (!GeradenSchneiden(a, b, genau)) return gerundet;
+    const double sinus = std::fabs(Kreuzprodukt(Einheit(a.richtung), Einheit(b.richtung)));
+    const double quer = 2 * kRundung * raster_.Schritt();
+    const double laengs = std::max(quer, std::min(quer / sinus, kVereinigung));
+    return Abstand(genau, gerundet) <= laengs ? genau : gerundet;
   }
 
   /// Rounding can put a crossing beside a corner that it belongs to.

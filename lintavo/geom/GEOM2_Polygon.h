@@ -144,8 +144,9 @@ class LINTAVO_API GEOM2_Polygon {
   /// meet the outline the cut angle of the outline there.
   ///
   /// The cut angle is that of the line through the points in which the two parallels
-  /// of the axis at +d and -d meet the outline; where one of them misses, it is that
-  /// of the edge which the axis meets. An end that does not meet the outline keeps its
+  /// of the axis at +d and -d meet the outline; where one of them misses, of the line
+  /// through the other's point and that of the axis, and where both miss, that of the edge
+  /// which the axis meets. An end that does not meet the outline keeps its
   /// angle, an end that already lies on it is not moved, and the axis never gets
   /// longer: cutting a second time changes nothing at all. Angles are bounded by 85
   /// degrees; where the two cuts would cross within d of the axis, neither takes more

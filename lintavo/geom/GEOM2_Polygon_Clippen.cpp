@@ -48,16 +48,9 @@ class Achssicht {
   bool Schnitttangens(double u, double d, int sinn, double& tangens) const {
     double kante = 0.0;
     if (!Kantentangens(u, kante)) return false;
-    double links = 0.0;
-    double rechts = 0.0;
     const double grenze = std::tan(lintavo::kGroessterSchnittwinkel * lintavo::kRadiantJeGrad);
     tangens = kante;
-    if (d > kNullLaenge && Durchgang(u, d, sinn, links) && Durchgang(u, -d, sinn, rechts)) {
-      const double beide = (links - rechts) / (2 * d);
-      // A parallel that finds the outline only far away has missed the part of it that the
-      // axis meets.
-      if (std::fabs(beide) <= grenze) tangens = beide;
-    }
+    if (d > kNullLaenge) Parallelentangens(u, d, sinn, grenze, tangens);
     tangens = std::clamp(tangens, -grenze, grenze);
     return true;
   }
@@ -92,6 +85,24 @@ class Achssicht {
   static bool IstNeben(const XY& p, const XY& q) {
     constexpr double kWeit = 1000 * kNullLaenge;
     return (p.y > kWeit && q.y > kWeit) || (p.y < -kWeit && q.y < -kWeit);
+  }
+
+  /// Lean of the line through the points in which the two parallels at d meet the outline;
+  /// where only one of them does, through its point and the axis' own. A parallel that
+  /// finds the outline only far away has missed the part of it that the axis meets. Nothing
+  /// is changed where both miss.
+  void Parallelentangens(double u, double d, int sinn, double grenze, double& tangens) const {
+    double links = 0.0;
+    double rechts = 0.0;
+    const auto trifft = [&](double v, double& treffer) {
+      return Durchgang(u, v, sinn, treffer) && std::fabs(treffer - u) <= grenze * d;
+    };
+    const bool trifftLinks = trifft(d, links);
+    const bool trifftRechts = trifft(-d, rechts);
+    if (!trifftLinks && !trifftRechts) return;
+    if (!trifftLinks) links = 2 * u - rechts;
+    if (!trifftRechts) rechts = 2 * u - links;
+    tangens = (links - rechts) / (2 * d);
   }
 
   static double Tangens(const XY& weg) {

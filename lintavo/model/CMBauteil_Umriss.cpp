@@ -1,4 +1,5 @@
 // The outlines of a component: of one axis segment, and of the whole bar.
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 
@@ -65,6 +66,27 @@ Segment SegmentVon(const GEOM2_Achse& achse, const Lage& lage) {
   return {start(lage.rechts), end(lage.rechts), end(lage.links), start(lage.links), richtung};
 }
 
+// Whether both cuts of a segment aim at p, a corner on its left.
+bool ZieltAuf(const Segment& s, const XY& p) {
+  const auto aufSchnitt = [&](const XY& rechts, const XY& links) {
+    const XY schnitt = lintavo::Einheit(lintavo::Differenz(links, rechts));
+    return std::fabs(lintavo::Kreuzprodukt(schnitt, lintavo::Differenz(p, rechts))) <=
+           lintavo::kNullLaenge;
+  };
+  return aufSchnitt(s.p1, s.p4) && aufSchnitt(s.p2, s.p3);
+}
+
+// The first segment of a row whose left side is there. Those before it have vanished below
+// a wider neighbour of the component: their cuts aim at the corner in which it starts.
+template <class Iterator, class Ecke>
+Iterator ErstesMitSeite(Iterator begin, Iterator end, Ecke ecke) {
+  for (Iterator k = std::next(begin); k != end; ++k) {
+    const XY start = ecke(*k);
+    if (std::all_of(begin, k, [&](const Segment& s) { return ZieltAuf(s, start); })) return k;
+  }
+  return begin;
+}
+
 // One long side of a bent component, from its start to its end. The sides of
 // the segments are intersected with their neighbours; where a segment has no
 // room on the inside of the bend, its neighbours meet. Both cuts bound the row.
@@ -73,12 +95,19 @@ Liste<lintavo::Kettenecke> LangeSeite(const Liste<Segment>& segmente, bool links
   const auto to = [&](const Segment& s) { return links ? s.p3 : s.p2; };
   const Segment& first = segmente.front();
   const Segment& last = segmente.back();
+  auto begin = segmente.begin();
+  auto end = segmente.end();
+  if (links) {
+    begin = ErstesMitSeite(segmente.begin(), segmente.end(), from);
+    end = ErstesMitSeite(segmente.rbegin(), segmente.rend(), to).base();
+    if (begin >= end) begin = segmente.begin(), end = segmente.end();
+  }
 
   Liste<lintavo::Kettenseite> seiten(segmente.get_allocator());
   seiten.reserve(segmente.size() + 2);
   seiten.emplace_back(lintavo::Gerade{from(first), lintavo::Differenz(first.p4, first.p1)});
-  for (const Segment& segment : segmente) {
-    seiten.emplace_back(lintavo::Gerade{from(segment), segment.richtung});
+  for (auto segment = begin; segment != end; ++segment) {
+    seiten.emplace_back(lintavo::Gerade{from(*segment), segment->richtung});
   }
   seiten.emplace_back(lintavo::Gerade{to(last), lintavo::Differenz(last.p3, last.p2)});
   return lintavo::OffeneKetteSchneiden(seiten);

@@ -204,7 +204,8 @@ class LINTAVO_API CMFenster {
   /// in the wrong order.
   CMZusatzMasz* ZusatzMaszAchsVerschiebungen();
   /// Applies dimensions between free corner points to the frame outline and the
-  /// given sash outlines. Returns the first that cannot be applied, or null.
+  /// given sash outlines; the frame's is then made anew from these. Returns the first
+  /// that cannot be applied, or null.
   CMZusatzMasz* ZusatzMaszRahmenEckenVerschiebungen(std::vector<GEOM2_Polygon>& grundformen);
   /// The corner of the frame outline nearest to a corner point, at most
   /// `tolerance` away.

@@ -201,6 +201,15 @@ bool EckpunktFangen(const GEOM2_Polygon& outline, const CMKnoten& knoten, double
   return index >= 0;
 }
 
+bool HatGleicheEcken(const GEOM2_Polygon& a, const GEOM2_Polygon& b) {
+  for (int i = 0; i < a.GetAnzahl(); ++i) {
+    const GEOM2_Eckpunkt& p = a.GetEckpunkt(i);
+    const GEOM2_Eckpunkt& q = b.GetEckpunkt(i);
+    if (p.x != q.x || p.y != q.y) return false;  // any movement counts
+  }
+  return true;
+}
+
 CMZusatzMasz AutomaticMasz(StringId name, double dAbstand) {
   CMZusatzMasz masz;
   masz.strName = lintavo::Text(name);
@@ -372,6 +381,9 @@ CMZusatzMasz* CMFenster::ZusatzMaszRahmenEckenVerschiebungen(
   for (CMZusatzMasz& masz : zusatzMasze_) {
     if (!EckenNachMaszSetzen(masz, before, grundformen)) return &masz;
   }
+  // A side along which several sashes stand bends where the one ends whose corner
+  // has moved.
+  if (!HatGleicheEcken(rahmen_.RahmenPolygon, before)) RahmenUmrissBilden(grundformen);
   return nullptr;
 }
 

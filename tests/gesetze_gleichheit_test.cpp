@@ -1,0 +1,214 @@
+// Laws of sameness: calculated again, read again, fitted there and back, shifted, enlarged.
+#include <algorithm>
+#include <iterator>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "lintavo/ini/CIniFile.h"
+
+#include "support/Beispiele.h"
+#include "support/Geometrie.h"
+#include "support/Gesetze.h"
+#include "support/Wuerfel.h"
+
+namespace lintavo::test {
+namespace {
+
+// Everything that a host sees of a window, piece by piece.
+struct Bestand {
+  std::vector<GEOM2_Polygon> umrisse;
+  std::vector<GEOM2_Polygon> konturen;  // of frame and sashes, outside and inside
+};
+
+Bestand BestandVon(const CMFenster& fenster, bool mitSprossen = true) {
+  Bestand bestand;
+  bestand.umrisse = Umrisse(fenster, mitSprossen);
+  const auto add = [&](const CMFensterSatz& satz) {
+    bestand.konturen.push_back(satz.RahmenPolygon);
+    EXPECT_TRUE(satz.ErzeugeRahmenInnenPolygon(true, bestand.konturen.emplace_back()));
+  };
+  add(*fenster.GetRahmenPtr());
+  for (long i = 0; i < fenster.GetAnzahlFluegel(); ++i) add(*fenster.GetFluegelPtr(i));
+  return bestand;
+}
+
+void ErwarteGleich(const std::vector<GEOM2_Polygon>& erwartet,
+                   const std::vector<GEOM2_Polygon>& ist, double tol, const char* was) {
+  ASSERT_EQ(erwartet.size(), ist.size()) << was;
+  for (std::size_t n = 0; n < ist.size(); ++n) {
+    EXPECT_TRUE(GleichePunkte(ist[n], erwartet[n], tol))
+        << was << ' ' << n << "\n  expected " << Text(erwartet[n]) << "\n  is       "
+        << Text(ist[n]);
+  }
+}
+
+void ErwarteGleich(const Bestand& erwartet, const Bestand& ist, double tol) {
+  ErwarteGleich(erwartet.umrisse, ist.umrisse, tol, "outline");
+  ErwarteGleich(erwartet.konturen, ist.konturen, tol, "contour");
+}
+
+TEST(Gesetze, CalculatingAgainChangesNothing) {
+  JedesFenster([](const Fensterentwurf& entwurf, CMFenster& fenster) {
+    const Bestand vorher = BestandVon(fenster);
+    const std::vector<std::string> zeilen = Zeilen(fenster);
+    Berechne(fenster, entwurf.pfostenAutomatisch);
+    EXPECT_EQ(Zeilen(fenster), zeilen);
+    // To the last bit.
+    ErwarteGleich(vorher, BestandVon(fenster), 0.0);
+  });
+}
+
+CMFenster Gelesen(const std::vector<std::string>& zeilen) {
+  CIniFile document;
+  for (const std::string& zeile : zeilen) document.AddLine(zeile);
+  CMFenster fenster;
+  EXPECT_TRUE(fenster.ReadFromBuffer(document));
+  Berechne(fenster);
+  return fenster;
+}
+
+// Files have six decimals, of angles too: what is read from them may differ by that much.
+constexpr double kDateirundung = 2e-5;
+
+// A frame part without a side is not stored, and with it go those behind it in the list.
+bool HatTeilOhneSeite(const CMFenster& fenster) {
+  const auto hat = [](const CMFensterSatz& satz) {
+    return std::any_of(satz.RahmenTeile.begin(), satz.RahmenTeile.end(),
+                       [](const CMBauteil& teil) { return !teil.IsVorhanden(); });
+  };
+  bool gefunden = hat(*fenster.GetRahmenPtr());
+  for (long i = 0; i < fenster.GetAnzahlFluegel(); ++i) {
+    gefunden = gefunden || hat(*fenster.GetFluegelPtr(i));
+  }
+  return gefunden;
+}
+
+TEST(Gesetze, ReadWriteReadIsTheSameBytes) {
+  JedesFenster([](const Fensterentwurf& entwurf, CMFenster& fenster) {
+    if (HatTeilOhneSeite(fenster)) return;
+    const std::vector<std::string> zeilen = Zeilen(fenster);
+    const CMFenster wieder = Gelesen(zeilen);
+    EXPECT_EQ(Zeilen(wieder), zeilen);
+    // In a file mullions stand before extra parts, so that those set last come out in
+    // another order; and it has but their nodes, which are not where slanted edges end.
+    const bool andere = !entwurf.aussenteile.empty() || !entwurf.nurRechtecke;
+    if (entwurf.pfostenAutomatisch && andere) return;
+    ErwarteGleich(BestandVon(fenster), BestandVon(wieder), kDateirundung);
+  });
+}
+
+bool HatBeweglicheBeiwerte(const Fensterentwurf& entwurf) {
+  return std::any_of(entwurf.fluegel.begin(), entwurf.fluegel.end(), [](const auto& fluegel) {
+    const auto beweglich = [](const Beiwertentwurf& beiwert) { return !beiwert.fest; };
+    return std::any_of(std::begin(fluegel.beiwertX), std::end(fluegel.beiwertX), beweglich) ||
+           std::any_of(std::begin(fluegel.beiwertY), std::end(fluegel.beiwertY), beweglich);
+  });
+}
+
+// Growing and shrinking to the size before. Bars are left out: they keep their
+// coordinates and are only ever shortened. So are movable coefficients where there are
+// dimensions besides width and height: a sash follows only those that reach over it.
+TEST(Gesetze, FittingThereAndBackIsTheIdentity) {
+  JedesFenster([](const Fensterentwurf& entwurf, CMFenster& fenster) {
+    if (HatBeweglicheBeiwerte(entwurf) && entwurf.masze.size() > 2) return;
+    // Laid anew, mullions run between their nodes, and slanted edges end beside those.
+    if (entwurf.pfostenAutomatisch && !entwurf.nurRechtecke) return;
+    double breite = 0.0;
+    double hoehe = 0.0;
+    ASSERT_TRUE(Gesamtmasze(fenster, breite, hoehe));
+    const Bestand vorher = BestandVon(fenster, false);
+    Wuerfel wuerfel(entwurf.seed);
+    // A corner that a dimension holds at its height may not be left too far behind.
+    const double mehr = entwurf.eckenBewegt ? 2.0 : 0.3 * hoehe;
+    const double breiter = breite + wuerfel.Laenge(0.0, 0.3 * breite);
+    const double hoeher = hoehe + wuerfel.Laenge(0.0, mehr);
+    CString fehler;
+    EXPECT_TRUE(Einpassen(fenster, breiter, hoeher)) << (fenster.GetFehler(fehler), fehler);
+    EXPECT_TRUE(Einpassen(fenster, breite, hoehe)) << (fenster.GetFehler(fehler), fehler);
+    ErwarteGleich(vorher, BestandVon(fenster, false), 1e-6);
+  });
+}
+
+// --- the same elsewhere ------------------------------------------------------------
+
+std::vector<GEOM2_Polygon> Verschoben(std::vector<GEOM2_Polygon> polygone, double dx, double dy) {
+  for (GEOM2_Polygon& polygon : polygone) polygon.Transformieren(1.0, 0.0, dx, dy);
+  return polygone;
+}
+
+// The grid begins elsewhere, and with it everything. Left out: windows whose dimensions
+// move axes between others, because these shifts reckon with a grid that begins at 0, and
+// a fitted rise, whose nodes are counted from the grid as well.
+TEST(Gesetze, AShiftedGridShiftsEverything) {
+  JedesFenster([](const Fensterentwurf& entwurf, CMFenster& fenster) {
+    if (entwurf.achsenBewegt || entwurf.stichBewegt) return;
+    constexpr double kDx = 128.0;
+    constexpr double kDy = -64.0;
+    CMFenster verschoben = Gelesen(entwurf);
+    verschoben.GetAchsen().SetAchsAbstX(0, kDx);
+    verschoben.GetAchsen().SetAchsAbstY(0, kDy);
+    for (long i = 0; i < verschoben.GetAnzahlFluegel(); ++i) {
+      for (CMBauteil& sprosse : verschoben.GetFluegelPtr(i)->Sprossen)
+        sprosse.Verschieben(kDx, kDy);
+    }
+    for (long i = 0; i < verschoben.GetAnzahlZusatzMasze(); ++i) {
+      CMZusatzMasz& masz = *verschoben.GetZusatzMaszPtr(i);
+      if (masz.kKnoten1.IsAufAchse() && !masz.kKnoten2.IsAufAchse()) {
+        masz.kKnoten2.XPlus(kDx);
+        masz.kKnoten2.YPlus(kDy);
+      }
+    }
+    Berechne(verschoben, entwurf.pfostenAutomatisch);
+    const Bestand erwartet = BestandVon(fenster);
+    const Bestand ist = BestandVon(verschoben);
+    ErwarteGleich(Verschoben(erwartet.umrisse, kDx, kDy), ist.umrisse, 1e-6, "outline");
+    ErwarteGleich(Verschoben(erwartet.konturen, kDx, kDy), ist.konturen, 1e-6, "contour");
+  });
+}
+
+// Every corner of one lies on the border of the other.
+bool GleicheForm(const GEOM2_Polygon& a, const GEOM2_Polygon& b, double tol) {
+  const auto liegtAuf = [tol](const GEOM2_Polygon& p, const GEOM2_Polygon& q) {
+    for (int i = 0; i < p.GetAnzahl(); ++i) {
+      if (!q.IsAufRand({p.GetEckpunkt(i).x, p.GetEckpunkt(i).y}, tol)) return false;
+    }
+    return true;
+  };
+  return liegtAuf(a, b) && liegtAuf(b, a);
+}
+
+void ErwarteGleicheFormen(const std::vector<GEOM2_Polygon>& erwartet,
+                          const std::vector<GEOM2_Polygon>& ist, double tol, const char* was) {
+  ASSERT_EQ(erwartet.size(), ist.size()) << was;
+  for (std::size_t n = 0; n < ist.size(); ++n) {
+    EXPECT_TRUE(GleicheForm(ist[n], erwartet[n], tol))
+        << was << ' ' << n << "\n  expected " << Text(erwartet[n]) << "\n  is       "
+        << Text(ist[n]);
+  }
+}
+
+// Twice as large in everything, the longest side of a bent part included. Tolerances do
+// not grow: an outline may have an almost superfluous vertex, or a side of up to 0.1 at a
+// corner, that the other has not.
+TEST(Gesetze, ALargerWindowIsTheSameLarger) {
+  constexpr double kFaktor = 2.0;
+  constexpr double kBereinigung = 0.1;
+  JedesFenster([](const Fensterentwurf& entwurf, CMFenster& fenster) {
+    CMFenster grosz = Gelesen(Vergroeszert(entwurf, kFaktor));
+    grosz.SetRahmenAbschnitt(kFaktor * grosz.GetRahmenAbschnitt());
+    grosz.GetPfostenVorlage().dBreite *= kFaktor;
+    Berechne(grosz, entwurf.pfostenAutomatisch);
+    const auto mal = [](std::vector<GEOM2_Polygon> polygone) {
+      for (GEOM2_Polygon& p : polygone) p.Transformieren(kFaktor, 0.0, 0.0, 0.0);
+      return polygone;
+    };
+    const Bestand erwartet = BestandVon(fenster);
+    const Bestand ist = BestandVon(grosz);
+    ErwarteGleicheFormen(mal(erwartet.umrisse), ist.umrisse, kBereinigung, "outline");
+    ErwarteGleicheFormen(mal(erwartet.konturen), ist.konturen, kBereinigung, "contour");
+  });
+}
+
+}  // namespace
+}  // namespace lintavo::test
