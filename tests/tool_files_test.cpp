@@ -213,6 +213,8 @@ TEST_F(ToolFiles, TargetsForSeveralFiles) {
       {"lintavo fit in/rundbogen.aqz in/rundbogen.aqz 100 150 -o da", 2, "two files would be"},
       {"lintavo check leer", 1, "leer: there is no .aqz or .cqz file in this folder"},
       {"lintavo check fehlt/", 1, "fehlt/"},
+      {"lintavo draw in -o /dev/null/bild/ 2>err; test $(wc -l <err) = 1", 0, ""},
+      {"lintavo fit in 100,5 150", 2, "'100,5' is no length greater than zero, decimals stand"},
       {"lintavo draw in/rundbogen.aqz -o in/rundbogen.aqz --format svg", 1, "would overwrite"},
   });
   for (const char* made :

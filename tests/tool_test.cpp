@@ -395,6 +395,7 @@ TEST_F(Tool, HelpAndVersionAreNoErrors) {
   for (const char* command : {"show", "fit", "draw", "position", "form"})
     EXPECT_TRUE(Contains(help.out, command));
   EXPECT_EQ(Run("fit --help").status, 0);
+  EXPECT_EQ(Run("help fit").out, Run("fit --help").out);
   EXPECT_EQ(Run("--version").out, "lintavo 1.0.0\n");
 }
 

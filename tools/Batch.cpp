@@ -67,6 +67,8 @@ void ForEachTarget(
   }
   const bool makeFolders = IsForSeveral(target);
   const std::vector<std::string> targets = FindTargets(sources, target, ending);
+  // What is wrong with the folder of all is said once.
+  if (makeFolders) MakeFoldersOf(targets.front());
   ForEach(sources, quiet, console, [&](std::size_t i) {
     if (makeFolders) MakeFoldersOf(targets[i]);
     action(sources[i], targets[i]);

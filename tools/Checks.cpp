@@ -1,6 +1,8 @@
 // Checks of words on the command line.
 #include "Checks.h"
 
+#include "lintavo/drawing/Text.h"
+
 #include "Numbers.h"
 
 namespace lintavo::tools {
@@ -10,9 +12,16 @@ std::string CheckNumber(const std::string& text) {
   return ParseNumber(text, number) ? "" : "'" + text + "' is no number";
 }
 
+std::string NoLength(const std::string& text) {
+  std::string fault = "'";
+  fault += drawing::ToDisplayText(text) + "' is no length greater than zero";
+  if (text.find(',') != std::string::npos) fault += ", decimals stand behind a point";
+  return fault;
+}
+
 std::string CheckLength(const std::string& text) {
   double length = 0.0;
-  return ParseLength(text, length) ? "" : "'" + text + "' is no length greater than zero";
+  return ParseLength(text, length) ? "" : NoLength(text);
 }
 
 std::string CheckSize(const std::string& text) {

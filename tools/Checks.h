@@ -9,6 +9,9 @@ namespace lintavo::tools {
 /// A finite number, with "." where it has decimals.
 std::string CheckNumber(const std::string& text);
 
+/// What is wrong with a text that is no length greater than zero.
+std::string NoLength(const std::string& text);
+
 /// A length greater than zero.
 std::string CheckLength(const std::string& text);
 

@@ -3,11 +3,13 @@
 // 0: done. 1: the command cannot be carried out, one line on standard error
 // says why. 2: it was called in a wrong way.
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <iostream>
 #include <new>
 #include <string>
+#include <vector>
 
 #include "Arguments.h"
 #include "Console.h"
@@ -24,6 +26,18 @@ constexpr const char* kFooter =
     "\n"
     "Where a file is named, - is standard input or output. Exit status: 0 when all is\n"
     "done, 1 when something failed, 2 when the command was called in a wrong way.";
+
+// The words of the call in the order in which the parser takes them, the last one first.
+// "help COMMAND" is what many try.
+std::vector<std::string> WordsOf(int argc, char** argv) {
+  std::vector<std::string> words(argv + std::min(argc, 1), argv + argc);
+  if (!words.empty() && words.front() == "help") {
+    words.erase(words.begin());
+    words.emplace_back("--help");
+  }
+  std::reverse(words.begin(), words.end());
+  return words;
+}
 
 int Run(int argc, char** argv) {
   CLI::App app(
@@ -42,7 +56,7 @@ int Run(int argc, char** argv) {
   for (const AddCommand add : AllCommands()) add(app, console);
   for (CLI::App* command : app.get_subcommands({})) command->group("Commands");
   try {
-    app.parse(argc, argv);
+    app.parse(WordsOf(argc, argv));
   } catch (const CLI::ParseError& error) {
     if (app.exit(error) != 0) return kWrongUsage;
   }

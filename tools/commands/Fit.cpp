@@ -9,6 +9,7 @@
 
 #include "Arguments.h"
 #include "Batch.h"
+#include "Checks.h"
 #include "Console.h"
 #include "Numbers.h"
 #include "WindowFile.h"
@@ -35,9 +36,9 @@ void TakeSize(FitOptions& options) {
          ++i) {
       double& length = i + 1 == words.size() ? options.height : options.width;
       if (ParseLength(words[i], length)) continue;
-      throw UsageError("'" + DisplayName(words[i]) +
-                       "' is no length greater than zero; the opening's width and height stand "
-                       "last, as in 'lintavo fit window.aqz 180 150'");
+      throw UsageError(NoLength(words[i]) +
+                       "; the opening's width and height stand last, as in 'lintavo fit "
+                       "window.aqz 180 150'");
     }
   }
   if (words.size() <= sizeWords) throw UsageError("no file is named");

@@ -10,6 +10,7 @@
 
 #include "Arguments.h"
 #include "Batch.h"
+#include "Checks.h"
 #include "Console.h"
 #include "Numbers.h"
 #include "WindowFile.h"
@@ -43,8 +44,7 @@ void TakeAssignments(SetOptions& options) {
     Assignment assignment{drawing::ToDisplayText(word.substr(0, sign)), 0.0};
     const std::string length = word.substr(sign + 1);
     if (!ParseLength(length, assignment.length)) {
-      throw UsageError("'" + DisplayName(length) + "' is no length greater than zero for '" +
-                       assignment.name + "'");
+      throw UsageError("'" + assignment.name + "': " + NoLength(length));
     }
     options.assignments.push_back(std::move(assignment));
   }
