@@ -9,6 +9,7 @@ std::span<const AddCommand> AllCommands() {
       AddShow,
       AddCheck,
       AddDraw,
+      AddSheet,
       AddFit,
       AddSet,
       AddPosition,

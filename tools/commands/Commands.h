@@ -20,6 +20,7 @@ using AddCommand = void (*)(CLI::App& app, Console& console);
 void AddShow(CLI::App& app, Console& console);
 void AddCheck(CLI::App& app, Console& console);
 void AddDraw(CLI::App& app, Console& console);
+void AddSheet(CLI::App& app, Console& console);
 void AddFit(CLI::App& app, Console& console);
 void AddSet(CLI::App& app, Console& console);
 void AddPosition(CLI::App& app, Console& console);
