@@ -15,14 +15,14 @@
 
 #include "lintavo/api/CFeApi.h"
 #include "lintavo/drawing/Picture.h"
-#include "lintavo/drawing/Text.h"
 
 #include "support/PictureFile.h"
+#include "support/Szene.h"
 
 namespace lintavo::drawing {
 namespace {
 
-using lintavo::testing::ParseSvg;
+using namespace lintavo::testing;
 
 std::string Render(const Scene& scene, PictureFormat format) {
   std::string bytes;
@@ -31,99 +31,6 @@ std::string Render(const Scene& scene, PictureFormat format) {
 }
 
 constexpr ViewSide kBothSides[] = {ViewSide::kInside, ViewSide::kOutside};
-
-std::vector<std::string> ExampleNames() {
-  std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(LINTAVO_EXAMPLES_DIR "/windows")) {
-    if (entry.path().extension() == ".aqz") names.push_back(entry.path().stem().string());
-  }
-  std::sort(names.begin(), names.end());
-  return names;
-}
-
-std::string ExampleText(const std::string& name) {
-  return lintavo::testing::ReadBytes(LINTAVO_EXAMPLES_DIR "/windows/" + name + ".aqz");
-}
-
-CFeApi Example(const std::string& name) {
-  CFeApi window;
-  EXPECT_EQ(window.ReadFromFile((LINTAVO_EXAMPLES_DIR "/windows/" + name + ".aqz").c_str()), 1);
-  return window;
-}
-
-// The window of a macro file's text, in the façade's form for buffers.
-CFeApi WindowOf(const std::string& text) {
-  std::string buffer;
-  for (const char c : text) {
-    const bool emptyLine = c == '\n' && (buffer.empty() || buffer.back() == '#');
-    if (!emptyLine) buffer += c == '\n' ? '#' : c;
-  }
-  if (buffer.back() != '#') buffer += '#';
-  CFeApi window;
-  EXPECT_EQ(window.ReadFromBuffer(static_cast<long>(buffer.size()), buffer.data()), 1);
-  return window;
-}
-
-// An example with one piece of its file replaced.
-CFeApi Changed(const std::string& name, const std::string& from, const std::string& to) {
-  std::string text = ExampleText(name);
-  const std::size_t place = text.find(from);
-  EXPECT_NE(place, std::string::npos) << from;
-  text.replace(place, from.size(), to);
-  return WindowOf(text);
-}
-
-Scene SceneOf(const CFeApi& window, ViewSide side = ViewSide::kInside) {
-  SceneOptions options;
-  options.side = side;
-  return BuildScene(window, options);
-}
-
-// Index of the first shape of a kind and sash in the order of painting, -1 for none.
-long PlaceOf(const Scene& scene, ShapeKind kind, long fluegel) {
-  for (std::size_t i = 0; i < scene.shapes.size(); ++i) {
-    if (scene.shapes[i].kind == kind && scene.shapes[i].fluegel == fluegel) {
-      return static_cast<long>(i);
-    }
-  }
-  return -1;
-}
-
-long Count(const Scene& scene, ShapeKind kind) {
-  return std::count_if(scene.shapes.begin(), scene.shapes.end(),
-                       [&](const Shape& shape) { return shape.kind == kind; });
-}
-
-long Count(const Scene& scene, LineKind kind, bool dashed = false) {
-  return std::count_if(scene.lines.begin(), scene.lines.end(), [&](const Line& line) {
-    return line.kind == kind && (!dashed || line.dashed);
-  });
-}
-
-bool IsInside(const Shape& shape, const Point& p) {
-  bool inside = false;
-  for (std::size_t i = 0; i < shape.outline.size(); ++i) {
-    const Point& a = shape.outline[i];
-    const Point& b = shape.outline[(i + 1) % shape.outline.size()];
-    if ((a.y > p.y) == (b.y > p.y)) continue;
-    if (p.x < a.x + (b.x - a.x) * (p.y - a.y) / (b.y - a.y)) inside = !inside;
-  }
-  return inside;
-}
-
-double DistanceToOutline(const Shape& shape, const Point& p) {
-  double nearest = 1e300;
-  for (std::size_t i = 0; i < shape.outline.size(); ++i) {
-    const Point& a = shape.outline[i];
-    const Point& b = shape.outline[(i + 1) % shape.outline.size()];
-    const double dx = b.x - a.x;
-    const double dy = b.y - a.y;
-    const double square = std::max(dx * dx + dy * dy, 1e-300);
-    const double t = std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / square, 0.0, 1.0);
-    nearest = std::min(nearest, std::hypot(p.x - a.x - t * dx, p.y - a.y - t * dy));
-  }
-  return nearest;
-}
 
 // What is seen at a point: the shape painted last of those that it lies in.
 const Shape* Topmost(const Scene& scene, const Point& p) {
@@ -185,36 +92,29 @@ TEST_P(EveryExample, CoversAsTheViewWithHiddenLinesRemoved) {
   }
 }
 
-bool Touches(const Line& line, const Box& box) {
-  constexpr int kSteps = 2000;
-  for (int i = 0; i <= kSteps; ++i) {
-    const double t = static_cast<double>(i) / kSteps;
-    const double x = line.from.x + t * (line.to.x - line.from.x);
-    const double y = line.from.y + t * (line.to.y - line.from.y);
-    if (x > box.left && x < box.right && y > box.bottom && y < box.top) return true;
-  }
-  return false;
-}
-
-TEST_P(EveryExample, WritesEveryDimensionWhereNothingElseIs) {
+// Every visible edge lies on the side of the part that it names.
+TEST_P(EveryExample, VisibleEdgesKnowTheirPartsAndSides) {
   const CFeApi window = Example(GetParam());
-  const Scene scene = SceneOf(window);
-  ASSERT_EQ(scene.texts.size(), static_cast<std::size_t>(window.GetAnzahlZusatzMasze()));
-  EXPECT_EQ(Count(scene, LineKind::kMaszLinie), window.GetAnzahlZusatzMasze());
-  EXPECT_EQ(Count(scene, LineKind::kHilfsLinie), 2 * window.GetAnzahlZusatzMasze());
-  EXPECT_EQ(Count(scene, ShapeKind::kMaszPfeil), 2 * window.GetAnzahlZusatzMasze());
-  for (const Text& text : scene.texts) {
-    EXPECT_EQ(text.inhalt, LengthText(std::abs(window.GetZMaszLaenge(text.masz))));
-    const Box box = GetBox(text);
-    for (const Line& line : scene.lines) EXPECT_FALSE(Touches(line, box)) << text.inhalt;
-    for (const Shape& shape : scene.shapes) {
-      EXPECT_FALSE(IsInside(shape, text.mitte)) << text.inhalt;
-    }
-    for (const Text& other : scene.texts) {
-      const Box second = GetBox(other);
-      EXPECT_TRUE(&other == &text || second.left >= box.right || second.right <= box.left ||
-                  second.bottom >= box.top || second.top <= box.bottom)
-          << text.inhalt << " and " << other.inhalt;
+  for (const ViewSide side : kBothSides) {
+    const Scene filled = SceneOf(window, side);
+    SceneOptions options;
+    options.side = side;
+    options.hiddenLine = true;
+    for (const Line& line : BuildScene(window, options).lines) {
+      if (line.kind != LineKind::kAnsicht) continue;
+      const auto part =
+          std::find_if(filled.shapes.begin(), filled.shapes.end(), [&](const Shape& shape) {
+            return shape.kind == line.teil && shape.fluegel == line.fluegel &&
+                   shape.bauteil == line.bauteil;
+          });
+      ASSERT_NE(part, filled.shapes.end());
+      const auto count = static_cast<long>(part->outline.size());
+      ASSERT_TRUE(line.seite >= 0 && line.seite < count);
+      Shape edge;
+      edge.outline = {part->outline[static_cast<std::size_t>(line.seite)],
+                      part->outline[static_cast<std::size_t>((line.seite + 1) % count)]};
+      EXPECT_LT(DistanceToOutline(edge, line.from), 0.002);
+      EXPECT_LT(DistanceToOutline(edge, line.to), 0.002);
     }
   }
 }
@@ -363,134 +263,6 @@ TEST(SceneParts, TellMullionsExtraPartsAndSlatsApart) {
   const Scene slats = SceneOf(Example("klappladen_zweifluegelig"));
   EXPECT_EQ(Count(slats, ShapeKind::kLamelle), 2 * 20);
   EXPECT_EQ(Count(slats, ShapeKind::kLamellen), 2);
-}
-
-TEST(SceneDimensions, LieWhereTheFilePutsThem) {
-  const Scene scene = SceneOf(Example("drehkipp_einfluegelig"));
-  const auto line = std::find_if(scene.lines.begin(), scene.lines.end(), [](const Line& l) {
-    return l.kind == LineKind::kMaszLinie && l.masz == 0;
-  });
-  ASSERT_NE(line, scene.lines.end());
-  EXPECT_NEAR(line->from.x, 0.0, 1e-9);
-  EXPECT_NEAR(line->to.x, 100.0, 1e-9);
-  EXPECT_NEAR(line->from.y, -20.0, 1e-9);
-  // Above the middle of its line; that of the height to the left, reading upwards.
-  EXPECT_NEAR(scene.texts[0].mitte.x, 50.0, 1e-9);
-  EXPECT_GT(scene.texts[0].mitte.y, -20.0);
-  EXPECT_FALSE(scene.texts[0].upright);
-  EXPECT_NEAR(scene.texts[1].mitte.y, 65.0, 1e-9);
-  EXPECT_LT(scene.texts[1].mitte.x, -20.0);
-  EXPECT_TRUE(scene.texts[1].upright);
-}
-
-TEST(SceneDimensions, InsideTheWindowAvoidItsLines) {
-  // The breast rail's height is measured on the frame's outer edge.
-  const Scene scene = SceneOf(Changed("raster_3x3", "Laenge=60,-30", "Laenge=60,0"));
-  const auto text = std::find_if(scene.texts.begin(), scene.texts.end(),
-                                 [](const Text& t) { return t.masz == 4; });
-  ASSERT_NE(text, scene.texts.end());
-  for (const Line& line : scene.lines) EXPECT_FALSE(Touches(line, GetBox(*text)));
-  for (const Shape& shape : scene.shapes) {
-    for (std::size_t i = 0; i < shape.outline.size(); ++i) {
-      Line edge;
-      edge.from = shape.outline[i];
-      edge.to = shape.outline[(i + 1) % shape.outline.size()];
-      EXPECT_FALSE(Touches(edge, GetBox(*text)));
-    }
-  }
-}
-
-TEST(SceneDimensions, ThatAreShortHaveTheirArrowsOutside) {
-  // A dimension of 0.5 beside the window, which is 100 wide.
-  std::string text = ExampleText("drehkipp_einfluegelig");
-  text.replace(text.find("X1=100"), 6, "X1=100\nX2=0.5");
-  text.insert(text.find("[Rahmen]"),
-              "[Masz3]\nName=Nut\nLaenge=0.5,-10\nRichtung=1\nKnoten1=1,0\nKnoten2=2,0\n");
-  const Scene narrow = SceneOf(WindowOf(text));
-  ASSERT_EQ(narrow.texts.size(), 3u);
-  for (const Shape& shape : narrow.shapes) {
-    if (shape.kind != ShapeKind::kMaszPfeil || shape.bauteil != 2) continue;
-    // The tip lies on an end, the rest of the head outside of the span 100 to 100.5.
-    const bool left = shape.outline[0].x < 100.25;
-    for (const Point& p : shape.outline) {
-      EXPECT_TRUE(left ? p.x <= 100.0 + 1e-9 : p.x >= 100.5 - 1e-9) << p.x;
-    }
-  }
-  EXPECT_TRUE(narrow.texts[2].mitte.x < 100.0 || narrow.texts[2].mitte.x > 100.5);
-}
-
-// The smaller side of the box around a shape.
-double SmallerSide(const Shape& shape) {
-  Box box{1e9, 1e9, -1e9, -1e9};
-  for (const Point& p : shape.outline) {
-    box = {std::min(box.left, p.x), std::min(box.bottom, p.y), std::max(box.right, p.x),
-           std::max(box.top, p.y)};
-  }
-  return std::min(box.right - box.left, box.top - box.bottom);
-}
-
-TEST(SceneDimensions, TakeTheSizesThatAreAskedFor) {
-  const CFeApi window = Example("drehkipp_einfluegelig");
-  SceneOptions options;
-  options.sizes.textHeight = 5.0;
-  options.sizes.arrowWidth = 1.25;
-  options.sizes.lineFactor = 2.0;
-  const Scene usual = BuildScene(window);
-  const Scene scene = BuildScene(window, options);
-  ASSERT_FALSE(scene.texts.empty());
-  for (const Text& text : scene.texts) EXPECT_DOUBLE_EQ(text.hoehe, 5.0);
-  for (const Shape& shape : scene.shapes) {
-    if (shape.kind != ShapeKind::kMaszPfeil) continue;
-    EXPECT_NEAR(SmallerSide(shape), 1.25, 1e-9);
-  }
-  // The window begins at 0, so a line below or left of it lies twice as far out.
-  const auto farthest = [](const Scene& s, double Point::*across) {
-    double least = 0.0;
-    for (const Line& line : s.lines) {
-      if (line.kind == LineKind::kMaszLinie) least = std::min(least, line.from.*across);
-    }
-    return least;
-  };
-  ASSERT_LT(farthest(usual, &Point::x) + farthest(usual, &Point::y), 0.0);
-  EXPECT_NEAR(farthest(scene, &Point::x), 2.0 * farthest(usual, &Point::x), 1e-9);
-  EXPECT_NEAR(farthest(scene, &Point::y), 2.0 * farthest(usual, &Point::y), 1e-9);
-}
-
-TEST(SceneDimensions, PixelsAreThoseOfThePicture) {
-  SceneOptions options;
-  options.sizes.pixel = true;
-  options.sizes.textHeight = 30.0;
-  const Scene scene = BuildScene(Example("drehkipp_einfluegelig"), options);
-  Box box;
-  ASSERT_TRUE(GetBox(scene, box));
-  // 1600 pixels less a margin of 64 on each side.
-  const double pixel = std::max(box.right - box.left, box.top - box.bottom) / 1472.0;
-  for (const Text& text : scene.texts) EXPECT_NEAR(text.hoehe, 30.0 * pixel, 0.1 * pixel);
-}
-
-TEST(SceneDimensions, SizesBeyondReasonStayWithinTheWindow) {
-  for (const double size : {1e300, HUGE_VAL, std::nan(""), -1.0}) {
-    for (const bool pixel : {false, true}) {
-      SceneOptions options;
-      options.sizes = {pixel, size, size, size, size, size, size};
-      const Scene scene = BuildScene(Example("drehkipp_einfluegelig"), options);
-      Box box;
-      ASSERT_TRUE(GetBox(scene, box)) << size;
-      EXPECT_LT(std::max(box.right - box.left, box.top - box.bottom), 130.0 * 30.0) << size;
-    }
-  }
-}
-
-TEST(SceneDimensions, OutOfReachAreLeftOut) {
-  for (const char* distance : {"1e300", "-1400", "nan"}) {
-    const CFeApi window =
-        Changed("drehkipp_einfluegelig", "Laenge=100,-20", std::string("Laenge=100,") + distance);
-    const Scene scene = SceneOf(window);
-    Box box;
-    ASSERT_TRUE(GetBox(scene, box));
-    EXPECT_LT(box.right - box.left, 1000.0);
-    EXPECT_LE(scene.texts.size(), 2u);
-  }
 }
 
 TEST(SceneHiddenLine, HasTheEdgesOfTheViewAndNothingFilled) {

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <limits>
 #include <string_view>
+#include <utility>
 
 #include "paper/Paper_intern.h"
 #include "scene/Lettering_intern.h"
@@ -34,37 +35,19 @@ constexpr Layer kLayers[] = {
     {"PANEELE", 9},     {"SCHRAFFUR", 9},  {"LAMELLEN", 9},  {"ANSICHT", 7},
     {"SYMBOLE", 5},     {"BESCHLAEGE", 6}, {"BEMASSUNG", 3}, {"TEXT", 7}};
 
-Box BoxOf(const Page& page, const View& base) {
-  constexpr double kInfinity = std::numeric_limits<double>::infinity();
-  struct Widener {
-    Box& box;
-    void Add(const Point& p) const {
-      box = {std::min(box.left, p.x), std::min(box.bottom, p.y), std::max(box.right, p.x),
-             std::max(box.top, p.y)};
-    }
-    void operator()(const Figure& figure) const {
-      for (const Trace& trace : figure.traces) {
-        for (const Point& p : trace.points) Add(p);
-      }
-    }
-    void operator()(const Label& label) const {
-      const double half = label.width / 2.0;
-      const double left = label.fromLeft ? 0.0 : half;
-      const double right = label.fromLeft ? label.width : half;
-      const double dx = label.hoehe / 2.0;
-      if (label.upright) {
-        Add({label.mitte.x - dx, label.mitte.y - left});
-        Add({label.mitte.x + dx, label.mitte.y + right});
-      } else {
-        Add({label.mitte.x - left, label.mitte.y - dx});
-        Add({label.mitte.x + right, label.mitte.y + dx});
-      }
-    }
-  };
-  if (!page.single) return {0.0, 0.0, page.width, page.height};
-  Box box{kInfinity, kInfinity, -kInfinity, -kInfinity};
-  ForEach(base.content, Widener{box});
-  return box;
+void Widen(const Point& p, Box& box) {
+  box = {std::min(box.left, p.x), std::min(box.bottom, p.y), std::max(box.right, p.x),
+         std::max(box.top, p.y)};
+}
+
+// The lower left and upper right corner of a label.
+std::pair<Point, Point> CornersOf(const Label& label) {
+  const double before = label.fromLeft ? 0.0 : label.width / 2.0;
+  const double behind = label.width - before;
+  const double half = label.hoehe / 2.0;
+  const Point& m = label.mitte;
+  if (label.upright) return {{m.x - half, m.y - before}, {m.x + half, m.y + behind}};
+  return {{m.x - before, m.y - half}, {m.x + behind, m.y + half}};
 }
 
 class DxfWriter {
@@ -107,9 +90,30 @@ class DxfWriter {
     if (!flat) tags_.Add(30, 0.0);
   }
 
+  // The box of everything, in the file's coordinates.
+  Box Extent() {
+    if (!base_) return {0.0, 0.0, page_.width, page_.height};
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    Box box{kInfinity, kInfinity, -kInfinity, -kInfinity};
+    for (const View& view : page_.views) {
+      view_ = &view;
+      ForEach(view.content, [&](const auto& thing) { Widen(thing, box); });
+    }
+    return box;
+  }
+  void Widen(const Figure& figure, Box& box) const {
+    for (const Trace& trace : figure.traces) {
+      for (const Point& point : trace.points) drawing::Widen(ToModel(point), box);
+    }
+  }
+  void Widen(const Label& label, Box& box) const {
+    const auto [low, high] = CornersOf(label);
+    drawing::Widen(ToModel(low), box);
+    drawing::Widen(ToModel(high), box);
+  }
+
   void WriteHeader() {
-    const View none;
-    const Box box = BoxOf(page_, base_ ? *base_ : none);
+    const Box box = Extent();
     Begin("HEADER");
     Variable("$ACADVER", 1, "AC1009");
     Variable("$DWGCODEPAGE", 3, "ANSI_1252");
