@@ -33,7 +33,8 @@
  * may be passed.
  *
  * Threads. There is no state outside the handles: different handles may be used
- * from different threads at once, one handle by one thread at a time.
+ * from different threads at once. Of one handle, several threads may call functions
+ * that take it as const at once while none calls another.
  */
 #pragma once
 

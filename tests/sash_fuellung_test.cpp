@@ -136,6 +136,38 @@ TEST(Fuellung, ContourHasNoShortEdges) {
   }
 }
 
+TEST(Lamellen, OneByOneAreThoseOfTheWholeFilling) {
+  // A convex contour, which lines cross at any height; one with a notch from above,
+  // across which they are cut; one whose tip is thinner than a slat can be long.
+  const GEOM2_Polygon formen[] = {Poly("(0,0) (100,0) (80,90) (20,90)"),
+                                  Poly("(0,0) (100,0) (100,90) (50,40) (0,90)"),
+                                  Poly("(0,0) (1e-6,-40) (100,0) (50,50)")};
+  for (const GEOM2_Polygon& form : formen) {
+    for (const double luecke : {0.0, 0.7, -1.0}) {
+      CMFensterSatzRechteck fluegel = Fluegel(form, 0.0);
+      fluegel.Fuellung.SetLamellen(3.3, 1.0);
+      fluegel.Fuellung.D1 = luecke;
+      GEOM2_Polygon contour;
+      std::vector<CMBauteil> slats;
+      ASSERT_TRUE(fluegel.GetFuellung(7, contour, slats));
+      ASSERT_EQ(fluegel.GetAnzahlLamellen(), static_cast<long>(slats.size()));
+      CMBauteil lamelle;
+      // Backwards, so that no slat is laid on the way to the next.
+      for (long i = fluegel.GetAnzahlLamellen() - 1; i >= 0; --i) {
+        ASSERT_TRUE(fluegel.GetLamelle(7, i, lamelle));
+        const CMBauteil& wie = slats[static_cast<std::size_t>(i)];
+        EXPECT_EQ(lamelle.lReferenz, 7);
+        EXPECT_EQ(lamelle.dBreite, wie.dBreite);
+        EXPECT_EQ(lamelle.Achse(0).Start.y, wie.Achse(0).Start.y);
+        EXPECT_EQ(lamelle.Achse(0).dLaenge, wie.Achse(0).dLaenge);
+        EXPECT_EQ(lamelle.Achse(0).dWinkelEnde, wie.Achse(0).dWinkelEnde);
+      }
+      EXPECT_FALSE(fluegel.GetLamelle(7, static_cast<long>(slats.size()), lamelle));
+      EXPECT_FALSE(fluegel.GetLamelle(7, -1, lamelle));
+    }
+  }
+}
+
 TEST(Fuellung, SashWithoutContourHasNone) {
   CMFensterSatzRechteck fluegel;
   GEOM2_Polygon contour = Rechteck(0, 0, 1, 1);

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "scene/Ask_intern.h"
 #include "scene/Dimensions_intern.h"
 #include "scene/Parts_intern.h"
 
@@ -75,7 +76,9 @@ void ReachToWindow(const Dimension& dimension, const Box& box, double gap, Line&
 void AddExtensionLines(const CFeApi& window, const Dimension& dimension, const Box& box,
                        const DimensionSizes& sizes, Scene& scene) {
   CFeApiStrecken lines;
-  if (window.GetZMaszHilfslinien(dimension.masz, sizes.overhang, lines) != 1) return;
+  const int found =
+      Ask([&] { return window.GetZMaszHilfslinien(dimension.masz, sizes.overhang, lines); });
+  if (found != 1) return;
   for (int i = 0; i < lines.lAnzahl; ++i) {
     Line line = LineOf(LineKind::kHilfsLinie, dimension.masz, {lines.pdX1[i], lines.pdY1[i]},
                        {lines.pdX2[i], lines.pdY2[i]});
@@ -98,10 +101,11 @@ std::vector<Point> TurnedRound(std::vector<Point> arrow) {
 void AddArrows(const CFeApi& window, const Dimension& dimension, const DimensionSizes& sizes,
                Scene& scene) {
   CFeApiPolygon arrows[2];
-  if (window.GetZMaszPfeile(dimension.masz, sizes.arrowLength, sizes.arrowWidth, arrows[0],
-                            arrows[1]) != 1) {
-    return;
-  }
+  const int found = Ask([&] {
+    return window.GetZMaszPfeile(dimension.masz, sizes.arrowLength, sizes.arrowWidth, arrows[0],
+                                 arrows[1]);
+  });
+  if (found != 1) return;
   for (const CFeApiPolygon& arrow : arrows) {
     std::vector<Point> outline = ToOutline(arrow);
     for (Point& point : outline) point.*Across(dimension) += dimension.shift;
@@ -125,9 +129,14 @@ void AddDimensionLine(const Dimension& dimension, const DimensionSizes& sizes, S
 bool ReadDimension(const CFeApi& window, long masz, const Box& box, const DimensionSizes& sizes,
                    Dimension& dimension) {
   CFeApiStrecken lines;
-  if (window.GetZMaszLinie(masz, lines) != 1 || lines.lAnzahl != 1) return false;
-  if (window.GetZMaszHilfslinien(masz, sizes.overhang, lines) != 1) return false;
-  window.GetZMaszLinie(masz, lines);
+  CFeApiStrecken extensions;
+  if (Ask([&] { return window.GetZMaszLinie(masz, lines); }) != 1 || lines.lAnzahl != 1) {
+    return false;
+  }
+  // Only a line of some length has them.
+  if (Ask([&] { return window.GetZMaszHilfslinien(masz, sizes.overhang, extensions); }) != 1) {
+    return false;
+  }
   dimension.masz = masz;
   dimension.from = {lines.pdX1[0], lines.pdY1[0]};
   dimension.to = {lines.pdX2[0], lines.pdY2[0]};

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "scene/Ask_intern.h"
 #include "scene/Parts_intern.h"
 
 namespace lintavo::drawing {
@@ -37,7 +38,9 @@ bool RahmenUmriss(const CFeApi& window, long art, long i, CFeApiPolygon& outline
   double length = 0.0;
   double start = 0.0;
   double end = 0.0;
-  return window.GetRahmenBauteilUmriss(art, i, kAlleSegmente, outline, length, start, end) == 1;
+  return Ask([&] {
+           return window.GetRahmenBauteilUmriss(art, i, kAlleSegmente, outline, length, start, end);
+         }) == 1;
 }
 
 void AddFluegelBauteile(const CFeApi& window, long fluegel, long art, ShapeKind kind, ViewSide side,
@@ -47,11 +50,13 @@ void AddFluegelBauteile(const CFeApi& window, long fluegel, long art, ShapeKind 
     double length = 0.0;
     double start = 0.0;
     double end = 0.0;
-    if (window.GetFluegelBauteilUmriss(art, fluegel, i, kAlleSegmente, outline, length, start,
-                                       end) == 1) {
-      AddShape(scene, kind, fluegel, i, outline,
-               window.GetFluegelBauteilAttribut(art, fluegel, i, FarbNummer(side)));
-    }
+    const int found = Ask([&] {
+      return window.GetFluegelBauteilUmriss(art, fluegel, i, kAlleSegmente, outline, length, start,
+                                            end);
+    });
+    if (found != 1) continue;
+    AddShape(scene, kind, fluegel, i, outline,
+             window.GetFluegelBauteilAttribut(art, fluegel, i, FarbNummer(side)));
   }
 }
 
@@ -71,7 +76,7 @@ ShapeKind FuellungKind(eFeApiFuellArten art) {
 // the sash's inner outline is what it fills.
 void AddFuellung(const CFeApi& window, long fluegel, ViewSide side, Scene& scene) {
   CFeApiPolygon outline;
-  if (window.GetFluegelInnenPolygon(fluegel, 0.0, outline) != 1) return;
+  if (Ask([&] { return window.GetFluegelInnenPolygon(fluegel, 0.0, outline); }) != 1) return;
   const ShapeKind kind = FuellungKind(window.GetFluegelFuellungArt(fluegel));
   // What is seen between slats has no material: the attributes are the slats'.
   const long attribut = kind == ShapeKind::kLamellen
@@ -81,10 +86,12 @@ void AddFuellung(const CFeApi& window, long fluegel, ViewSide side, Scene& scene
 }
 
 void AddLamellen(const CFeApi& window, long fluegel, ViewSide side, Scene& scene) {
+  if (window.GetFluegelFuellungArt(fluegel) != eFeApiFuellungLamellen) return;
   const long attribut = window.GetFluegelFuellungAttribut(fluegel, FarbNummer(side));
-  for (long i = window.GetFluegelAnzahlLamellen(fluegel) - 1; i >= 0; --i) {
+  const long count = Ask([&] { return window.GetFluegelAnzahlLamellen(fluegel); });
+  for (long i = count - 1; i >= 0; --i) {
     CFeApiPolygon outline;
-    if (window.GetFluegelLamellenUmriss(fluegel, i, outline) == 1) {
+    if (Ask([&] { return window.GetFluegelLamellenUmriss(fluegel, i, outline); }) == 1) {
       AddShape(scene, ShapeKind::kLamelle, fluegel, i, outline, attribut);
     }
   }

@@ -10,6 +10,7 @@
 #include "lintavo/drawing/Text.h"
 
 #include "paper/Paper_intern.h"
+#include "scene/Ask_intern.h"
 #include "scene/Dimensions_intern.h"
 #include "scene/Layers_intern.h"
 #include "scene/Lettering_intern.h"
@@ -95,11 +96,10 @@ void Describe(const CFeApi& window, Scene& scene) {
 
 // The opening without reveals is the frame's outline.
 void AddUmriss(const CFeApi& window, Scene& scene) {
+  if (scene.shapes.empty()) return;
+  const CFeApiWandOeffnungsParameter none;
   CFeApiPolygon outline;
-  if (scene.shapes.empty() ||
-      window.GetWandOeffnung(CFeApiWandOeffnungsParameter(), outline) != 1) {
-    return;
-  }
+  if (Ask([&] { return window.GetWandOeffnung(none, outline); }) != 1) return;
   scene.umriss = ToOutline(outline);
 }
 

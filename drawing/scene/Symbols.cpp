@@ -5,6 +5,7 @@
 
 #include "lintavo/geom/KanteClippen.h"
 
+#include "scene/Ask_intern.h"
 #include "scene/EdgeOrigin_intern.h"
 #include "scene/Layers_intern.h"
 #include "scene/Symbols_intern.h"
@@ -84,7 +85,7 @@ bool StaysInItsPlane(const CFeApi& window, long fluegel) {
 void AddSymbol(const CFeApi& window, long fluegel, ViewSide side, std::size_t firstInFront,
                Scene& scene) {
   CFeApiStrecken record;
-  if (window.GetFluegelOeffnungsSymbol(fluegel, record) != 1) return;
+  if (Ask([&] { return window.GetFluegelOeffnungsSymbol(fluegel, record); }) != 1) return;
   Line kind;
   kind.kind = LineKind::kOeffnungsSymbol;
   kind.fluegel = fluegel;
@@ -105,7 +106,7 @@ void AddFittings(const CFeApi& window, ViewSide side, Scene& scene) {
     kind.fluegel = i;
     for (long j = 0; j < window.GetAnzahlBeschlaege(i); ++j) {
       CFeApiStrecken record;
-      if (window.GetBeschlagZeichnung(i, j, record) != 1) continue;
+      if (Ask([&] { return window.GetBeschlagZeichnung(i, j, record); }) != 1) continue;
       kind.bauteil = j;
       for (const CMStrecke& strecke : ToStrecken(record)) AddLine(strecke, kind, scene);
     }
@@ -114,7 +115,8 @@ void AddFittings(const CFeApi& window, ViewSide side, Scene& scene) {
 
 void AddView(const CFeApi& window, ViewSide side, Scene& scene) {
   CFeApiStrecken record;
-  if (window.GetAnsicht(side == ViewSide::kOutside ? 1 : 0, record) != 1) return;
+  const int fromOutside = side == ViewSide::kOutside ? 1 : 0;
+  if (Ask([&] { return window.GetAnsicht(fromOutside, record); }) != 1) return;
   for (const CMStrecke& strecke : ToStrecken(record)) AddLine(strecke, Line(), scene);
   TraceBack(scene);
 }

@@ -10,6 +10,7 @@
 #include "lintavo/api/Schutz_intern.h"
 #include "lintavo/ini/CIniFile.h"
 #include "lintavo/model/CMFenster.h"
+#include "lintavo/model/Fehler_intern.h"
 
 using lintavo::Geschuetzt;
 using lintavo::KopiereText;
@@ -23,13 +24,26 @@ CString PathOf(const char* path) {
   return CString(path);
 }
 
+// The result of an operation that leaves an error with the window; what runs out of
+// memory outside of the window leaves one, too.
+template <class Operation>
+int MitFehler(CMFenster& fenster, Operation operation) noexcept {
+  try {
+    return operation();
+  } catch (...) {
+    Geschuetzt([&] { fenster.SetErrorMsg(lintavo::KeinSpeicher().strText); });
+    return 0;
+  }
+}
+
 }  // namespace
 
 CFeApi::CFeApi() : pFenster_(Geschuetzt<CMFenster*>(nullptr, [] { return new CMFenster; })) {}
 
-CFeApi::CFeApi(const CFeApi& other) : CFeApi() {
-  *this = other;
-}
+CFeApi::CFeApi(const CFeApi& other)
+    : pFenster_(Geschuetzt<CMFenster*>(nullptr, [&] {
+        return other.pFenster_ ? new CMFenster(*other.pFenster_) : new CMFenster;
+      })) {}
 
 CFeApi& CFeApi::operator=(const CFeApi& other) {
   if (pFenster_ && other.pFenster_) Geschuetzt([&] { *pFenster_ = *other.pFenster_; });
@@ -37,7 +51,6 @@ CFeApi& CFeApi::operator=(const CFeApi& other) {
 }
 
 CFeApi::~CFeApi() {
-  DeleteFenster();
   delete pFenster_;
   pFenster_ = nullptr;
 }
@@ -70,14 +83,14 @@ long CFeApi::GetErrorMsg(char (&text)[256]) const {
 
 int CFeApi::ReadFromFile(const char* path) {
   if (!pFenster_) return 0;
-  return Geschuetzt(0, [&] {
+  return MitFehler(*pFenster_, [&] {
     return pFenster_->ReadFromFile(PathOf(path)) && pFenster_->Berechne(false) ? 1 : 0;
   });
 }
 
 int CFeApi::ReadFromCompressedFile(const char* path) {
   if (!pFenster_) return 0;
-  return Geschuetzt(0, [&] {
+  return MitFehler(*pFenster_, [&] {
     lintavo::KomprimierterText text;
     if (!lintavo::LiesKomprimiert(PathOf(path), text)) return 0;
     return ReadFromBuffer(text.lLaenge, text.Bytes, kWagenruecklauf);
@@ -90,7 +103,7 @@ int CFeApi::ReadFromBuffer(long length, const char* buffer) {
 
 int CFeApi::ReadFromBuffer(long length, const char* buffer, int separator) {
   if (!pFenster_) return 0;
-  return Geschuetzt(0, [&] {
+  return MitFehler(*pFenster_, [&] {
     CIniFile document;
     lintavo::JedeZeile(length, buffer, separator, [&](std::string_view line) {
       document.AddLine(line);

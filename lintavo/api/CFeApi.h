@@ -31,16 +31,20 @@ enum eFeApiFuellArten {
 /// only store, and the host calls `Berechne` when its changes are complete.
 /// Only reading and `Berechne` change the error number and text.
 ///
+/// Where there is no memory for a call it fails like any other and leaves the
+/// object usable: what reads or calculates with the error number 1; what has no
+/// result to tell by changes nothing.
+///
 /// Kinds of components (`lArt`): 1 frame parts, 2 single parts (mullions,
 /// transoms, extra parts), 3 glazing bars (sashes only).
 ///
-/// An object is used by one thread at a time; different objects are
-/// independent.
+/// Different objects are independent. Of one object, several threads may call
+/// const members at once while none calls another.
 class LINTAVO_API CFeApi {
  public:
   /// An empty window.
   CFeApi();
-  /// A copy of the other's window.
+  /// A copy of the other's window; without memory for it there is no window object.
   CFeApi(const CFeApi& other);
   /// Copies the other's window when both objects have one.
   CFeApi& operator=(const CFeApi& other);

@@ -7,6 +7,7 @@
 #include "lintavo/api/Schutz_intern.h"
 #include "lintavo/ini/CIniFile.h"
 #include "lintavo/platform/Files_intern.h"
+#include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/resources/StringTable.h"
 
 using lintavo::Geschuetzt;
@@ -19,10 +20,6 @@ constexpr const char* kEndungKomprimiert = "cqz";
 constexpr const char* kEndungTemporaer = "tmp";
 constexpr int kEndungLaenge = 3;
 constexpr int kWagenruecklauf = '\r';
-
-// Folders deeper than this are not searched: no tree of windows is that deep,
-// and a path so long could not be handed out.
-constexpr int kMaxTiefe = 100;
 
 bool HatEndung(const CString& path, const char* endung) {
   return path.Right(kEndungLaenge).CompareNoCase(endung) == 0;
@@ -54,7 +51,7 @@ bool LiesBezeichnung(const CString& path, CString& name) {
 }
 
 bool SucheMakroFile(const CString& folder, int tiefe, CString& path) {
-  if (tiefe > kMaxTiefe) return false;
+  if (tiefe > lintavo::kMaxOrdnertiefe) return false;
   for (const lintavo::FolderEntry& entry : lintavo::ListFolder(folder)) {
     const CString entryPath = lintavo::JoinPath(folder, entry.strName);
     if (entry.bIsFolder) {

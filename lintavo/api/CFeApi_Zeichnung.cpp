@@ -179,22 +179,18 @@ int CFeApi::GetFluegelFuellungUmriss(long i, CFeApiPolygon& umriss) const {
 }
 
 long CFeApi::GetFluegelAnzahlLamellen(long i) const {
-  return Geschuetzt(0L, [&] {
-    Fuellung fuellung;
-    return FuellungVon(Fluegel(i), fuellung) ? static_cast<long>(fuellung.lamellen.size()) : 0L;
-  });
+  const CMFensterSatz* fluegel = Fluegel(i);
+  return Geschuetzt(0L, [&] { return fluegel ? fluegel->GetAnzahlLamellen() : 0L; });
 }
 
 int CFeApi::GetFluegelLamellenUmriss(long i, long j, CFeApiPolygon& umriss) const {
   umriss.Delete();
   return Geschuetzt(0, [&] {
-    Fuellung fuellung;
-    if (!FuellungVon(Fluegel(i), fuellung) || j < 0 ||
-        static_cast<std::size_t>(j) >= fuellung.lamellen.size()) {
-      return 0;
-    }
+    const CMFensterSatz* fluegel = Fluegel(i);
+    CMBauteil lamelle;
+    if (!fluegel || !fluegel->GetLamelle(kOhneNummer, j, lamelle)) return 0;
     GEOM2_Polygon polygon;
-    fuellung.lamellen[static_cast<std::size_t>(j)].GetUmrissPunkte(polygon);
+    lamelle.GetUmrissPunkte(polygon);
     KopierePolygon(polygon, umriss);
     return 1;
   });

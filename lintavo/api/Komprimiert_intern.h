@@ -5,22 +5,19 @@
 #include <string_view>
 
 #include "lintavo/platform/CString.h"
+#include "lintavo/platform/Grenzen_intern.h"
 
 namespace lintavo {
-
-/// Bytes of a compressed file that are read, and of text that they may inflate
-/// to. Both limits are part of the format.
-inline constexpr long kKomprimiertMax = 10000;
 
 /// An inflated macro file. Where the stream is damaged the area holds what
 /// could be inflated, then zeroes, and counts whole.
 struct KomprimierterText {
-  char Bytes[kKomprimiertMax] = {};
+  char Bytes[kMaxKomprimiert] = {};
   long lLaenge = 0;
 };
 
 /// Reads and inflates a compressed macro file; false only when the file cannot
-/// be opened.
+/// be opened. Throws std::bad_alloc.
 bool LiesKomprimiert(const CString& path, KomprimierterText& text);
 
 /// Calls `visit` for every line that ends with `separator`, until it returns

@@ -28,22 +28,27 @@ CFeApiWandOeffnungsParameter ToParameter(const lintavo_opening* opening) {
   return parameter;
 }
 
+// A handle whose window there was memory for, too; else null.
+lintavo_window* Whole(lintavo_window* window) {
+  if (window && window->api.GetFensterPtr()) return window;
+  delete window;
+  return nullptr;
+}
+
 }  // namespace
 
 // --- life -------------------------------------------------------------------
 
 lintavo_window* lintavo_window_create(void) {
-  return Create<lintavo_window>();
+  return Whole(Create<lintavo_window>());
 }
 
 lintavo_window* lintavo_window_copy(const lintavo_window* window) {
-  return window ? Create<lintavo_window>(window->api) : nullptr;
+  return window ? Whole(Create<lintavo_window>(window->api)) : nullptr;
 }
 
 int lintavo_window_assign(lintavo_window* window, const lintavo_window* source) {
-  if (!window || !source) return 0;
-  window->api = source->api;
-  return 1;
+  return window && source ? window->api.SetFenster(*source->api.GetFensterPtr()) : 0;
 }
 
 void lintavo_window_destroy(lintavo_window* window) {

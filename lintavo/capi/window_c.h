@@ -25,11 +25,12 @@ LINTAVO_API lintavo_window* lintavo_window_create(void);
 /** A window of its own with all that `window` holds, to be returned through
  * lintavo_window_destroy; null for null or when there is no memory. */
 LINTAVO_API lintavo_window* lintavo_window_copy(const lintavo_window* window);
-/** Gives `window` all that `source` holds. 0 when one of them is null. */
+/** Gives `window` all that `source` holds. 0, with nothing changed, when one of
+ * them is null or there is no memory. */
 LINTAVO_API int lintavo_window_assign(lintavo_window* window, const lintavo_window* source);
 /** Releases the window; null is left alone. */
 LINTAVO_API void lintavo_window_destroy(lintavo_window* window);
-/** Empties the window; it stays usable. */
+/** Empties the window; it stays usable. Without any memory it keeps what it has. */
 LINTAVO_API void lintavo_window_delete_fenster(lintavo_window* window);
 
 /* --- errors ---------------------------------------------------------------- */

@@ -12,6 +12,7 @@
 #include "lintavo/geom/Schnittkette_intern.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
+#include "lintavo/platform/Grenzen_intern.h"
 
 namespace lintavo {
 namespace {
@@ -68,9 +69,6 @@ class Kreuzungsorte {
   std::map<Zelle, std::size_t> zellen_;
 };
 
-/// Cutting more crossings than this one by one takes too long.
-constexpr std::size_t kMaxPaare = 20'000;
-
 /// A place on an edge, at t times its length.
 struct Schnitt {
   std::size_t kante;
@@ -92,9 +90,9 @@ class Teilung {
     for (const Umrisskante& k : kanten_) {
       verbindungen.push_back({orte_[k.von], orte_[k.nach], k.von, k.nach});
     }
-    const auto paare = Beruehrungen(verbindungen, kMaxPaare);
+    const auto paare = Beruehrungen(verbindungen, kMaxSchnittpaare);
     if (paare.empty()) return Ausgang::kSauber;
-    if (paare.size() > kMaxPaare) return Ausgang::kUnmoeglich;
+    if (paare.size() > kMaxSchnittpaare) return Ausgang::kUnmoeglich;
     schnitte_.clear();
     for (const auto& [i, j] : paare) {
       if (!Schneiden(i, j)) return Ausgang::kUnmoeglich;

@@ -4,11 +4,13 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <new>
 #include <numeric>
 
 #include "lintavo/geom/Ganzzahlraster_intern.h"
 #include "lintavo/geom/Ring_intern.h"
 #include "lintavo/geom/Schnittkette_intern.h"
+#include "lintavo/platform/Grenzen_intern.h"
 
 namespace lintavo {
 namespace {
@@ -201,9 +203,8 @@ bool LiegtAuf(const IntPoint& p, const IntPoint& a, const IntPoint& b) {
 /// Makes narrow passages narrower than rounding into touches: corners almost in one place
 /// are put into one, corners almost on an edge are put onto it.
 Path EngstellenSchliessen(Path pfad) {
-  constexpr std::size_t kGroesste = 2000;  // the effort is quadratic
   const std::size_t n = pfad.size();
-  if (n > kGroesste) return pfad;
+  if (n > kMaxEngstellenEcken) return pfad;
   for (std::size_t i = 0; i < n; ++i) {
     for (std::size_t j = i + 2; j < n; ++j) {
       if (i == 0 && j + 1 == n) continue;
@@ -241,6 +242,14 @@ std::vector<std::size_t> Orte(const Path& pfad) {
   return orte;
 }
 
+/// The library releases memory twice where it runs out inside of it. So it is only
+/// started while there is as much as it can take, else std::bad_alloc is thrown here.
+void SpeicherSichern(std::size_t kanten, std::size_t beruehrungen) {
+  constexpr std::size_t kJeKanteOderBeruehrung = 256;  // an edge, or a crossing's points
+  constexpr std::size_t kImmer = 65536;
+  ::operator delete(::operator new(kImmer + kJeKanteOderBeruehrung * (kanten + beruehrungen)));
+}
+
 bool Rechnen(ClipperLib::Clipper& clipper, ClipperLib::ClipType art, Paths& ergebnis) {
   try {
     return clipper.Execute(art, ergebnis, ClipperLib::pftPositive, ClipperLib::pftPositive);
@@ -267,14 +276,22 @@ double Breite(const Path& pfad, const Ganzzahlraster& raster) {
   return umfang > 0.0 ? 2 * Ringflaeche(ring) / umfang : 0.0;
 }
 
-bool IstZuVerschlungen(const std::vector<Flaechenring>& ringe) {
+/// False when the edges touch too often to be reckoned with.
+bool Entwirrbar(const std::vector<Verbindung>& kanten) {
+  const std::size_t beruehrungen = Beruehrungen(kanten, kMaxBeruehrungen).size();
+  if (beruehrungen > kMaxBeruehrungen) return false;
+  SpeicherSichern(kanten.size(), beruehrungen);
+  return true;
+}
+
+bool Entwirrbar(const std::vector<Flaechenring>& ringe) {
   std::vector<Verbindung> kanten;
   for (const Flaechenring& ring : ringe) {
     std::vector<XY> orte;
     for (const Flaechenecke& ecke : ring) orte.push_back(ecke.ort);
     VerbindungenAnhaengen(orte, kanten.size(), kanten);
   }
-  return Beruehrungen(kanten, kMaxBeruehrungen).size() > kMaxBeruehrungen;
+  return Entwirrbar(kanten);
 }
 
 std::optional<std::vector<Ergebnisring>> Verrechnen(const std::vector<Flaechenring>& ringe,
@@ -285,7 +302,7 @@ std::optional<std::vector<Ergebnisring>> Verrechnen(const std::vector<Flaechenri
   }
   std::vector<Ergebnisring> ergebnis;
   if (!raster.Einrichten(aufloesung)) return ergebnis;
-  if (IstZuVerschlungen(ringe)) return std::nullopt;
+  if (!Entwirrbar(ringe)) return std::nullopt;
 
   const Eckenverzeichnis ecken(ringe, raster);
   ClipperLib::Clipper clipper;
@@ -332,7 +349,7 @@ std::optional<double> GemeinsameBreite(const std::vector<XY>& a, const std::vect
   std::vector<Verbindung> kanten;
   VerbindungenAnhaengen(a, 0, kanten);
   VerbindungenAnhaengen(b, a.size(), kanten);
-  if (Beruehrungen(kanten, kMaxBeruehrungen).size() > kMaxBeruehrungen) return std::nullopt;
+  if (!Entwirrbar(kanten)) return std::nullopt;
   ClipperLib::Clipper clipper;
   clipper.AddPath(Gegenuhrzeigersinn(a, raster), ClipperLib::ptSubject, true);
   clipper.AddPath(Gegenuhrzeigersinn(b, raster), ClipperLib::ptClip, true);

@@ -8,10 +8,10 @@
 #include "lintavo/geom/Geraden.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
+#include "lintavo/platform/Grenzen_intern.h"
 
 namespace {
 
-constexpr int kMaxAnzahl = 1'000'000;
 constexpr double kKeineHoehe = -1e100;
 
 /// One walk of the vertical ray from p towards +y over the edges of a polygon.
@@ -57,7 +57,7 @@ class Strahl {
 }  // namespace
 
 void GEOM2_Polygon::Reservieren(int n) {
-  if (0 < n && n <= kMaxAnzahl) ecken_.reserve(static_cast<std::size_t>(n));
+  if (0 < n && n <= lintavo::kMaxEcken) ecken_.reserve(static_cast<std::size_t>(n));
 }
 
 int GEOM2_Polygon::AddPunkt(double x, double y) {
@@ -126,7 +126,7 @@ double GEOM2_Polygon::GetKantenLaenge(int i) const {
 }
 
 bool GEOM2_Polygon::SetAnzahl(int n) {
-  if (n < 0 || n > kMaxAnzahl) return false;
+  if (n < 0 || n > lintavo::kMaxEcken) return false;
   ecken_.resize(static_cast<std::size_t>(n));
   status_ = 1;
   return true;

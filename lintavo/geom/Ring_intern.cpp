@@ -206,12 +206,11 @@ int Kehren(std::span<const XY> ring) {
   return kehren;
 }
 
-/// Turning one way only and coming round once: a ring like that needs no search.
+}  // namespace
+
 bool IstKonvex(std::span<const XY> ring) {
   return DrehtNurEinWeg(ring) && Kehren(ring) <= 2;
 }
-
-}  // namespace
 
 Liste<std::size_t> NoetigeEcken(std::span<const XY> ring, std::span<const double> tolLinie,
                                 double tolDeckung, Speicher speicher) {

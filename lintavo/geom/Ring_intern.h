@@ -32,10 +32,6 @@ struct Verbindung {
   std::size_t nach = 0;
 };
 
-/// More touching pairs of edges than this are no drawing: the effort of cutting them all
-/// grows out of proportion, so operations on areas give up instead.
-inline constexpr std::size_t kMaxBeruehrungen = 300'000;
-
 /// The pairs of edges, by index, that come within tol of each other, an end place with the
 /// same number apart; stops when there are more than hoechstens. tol 0 leaves rounding.
 std::vector<std::pair<std::size_t, std::size_t>> Beruehrungen(std::span<const Verbindung> kanten,
@@ -45,6 +41,10 @@ std::vector<std::pair<std::size_t, std::size_t>> Beruehrungen(std::span<const Ve
 /// The edges of a ring; its places are numbered from ersterOrt on.
 void VerbindungenAnhaengen(std::span<const XY> ring, std::size_t ersterOrt,
                            std::vector<Verbindung>& kanten);
+
+/// True when the ring, of 3 corners or more, turns one way only, at every corner, and comes round
+/// once: such a ring has no loops.
+bool IstKonvex(std::span<const XY> ring);
 
 /// True when no two edges of the ring come within 1e-6 of each other, except neighbours in
 /// their common corner.

@@ -9,20 +9,13 @@
 
 #include "lintavo/platform/CaseFold_intern.h"
 #include "lintavo/platform/Files_intern.h"
+#include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/platform/SaveFile.h"
 #include "lintavo/platform/Whitespace_intern.h"
 
 namespace {
 
-// A line buffer of 256 bytes with its terminating zero. Longer lines arrive in
-// pieces, and each is a line of its own: files rely on that limit.
-constexpr std::size_t kPieceLength = 255;
-
 constexpr std::size_t kBlockLength = 16384;
-
-// Of anything longer, an endless device for one, a document would only fill the
-// memory: files of windows have a thousandth of that.
-constexpr std::size_t kMaxFileLength = std::size_t{64} << 20;
 
 bool IsHeader(std::string_view line) {
   return !line.empty() && line.front() == '[';
@@ -41,7 +34,7 @@ bool IsEntryOf(std::string_view line, std::string_view key) {
 }
 
 // Reads a file in blocks and hands it out in pieces: up to and with a line
-// feed, at most kPieceLength bytes, the rest at the end of the file.
+// feed, at most kMaxZeile bytes, the rest at the end of the file.
 class PieceReader {
  public:
   explicit PieceReader(std::FILE* file) : file_(file) {
@@ -51,10 +44,10 @@ class PieceReader {
 
   // The next piece, valid until the next call; empty at the end of the file.
   std::string_view Next() {
-    if (end_ - begin_ < kPieceLength) Refill();
+    if (end_ - begin_ < lintavo::kMaxZeile) Refill();
     const char* start = block_ + begin_;
     const std::size_t rest = end_ - begin_;
-    const std::size_t most = rest < kPieceLength ? rest : kPieceLength;
+    const std::size_t most = rest < lintavo::kMaxZeile ? rest : lintavo::kMaxZeile;
     const void* lineEnd = most > 0 ? std::memchr(start, '\n', most) : nullptr;
     const std::size_t length =
         lineEnd != nullptr ? static_cast<std::size_t>(static_cast<const char*>(lineEnd) - start) + 1
@@ -77,7 +70,7 @@ class PieceReader {
     const std::size_t read = std::fread(block_ + end_, 1, wanted, file_);
     end_ += read;
     total_ += read;
-    failed_ = total_ > kMaxFileLength || std::ferror(file_) != 0;
+    failed_ = total_ > lintavo::kMaxDatei || std::ferror(file_) != 0;
     atEnd_ = failed_ || read < wanted;
   }
 

@@ -24,7 +24,9 @@ class LINTAVO_API CIniFile {
  public:
   CIniFile() = default;
   CIniFile(const CIniFile&) = default;
+  CIniFile(CIniFile&&) noexcept = default;
   CIniFile& operator=(const CIniFile&) = default;
+  CIniFile& operator=(CIniFile&&) noexcept = default;
   virtual ~CIniFile();
 
   /// Appends the lines of a file: 1, or 0 when it cannot be opened or not be read

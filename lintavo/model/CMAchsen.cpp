@@ -4,14 +4,12 @@
 #include <cmath>
 
 #include "lintavo/ini/CIniFile.h"
+#include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/resources/StringTable.h"
 
 namespace {
 
 using Achsen = std::vector<CMAchsInfo>;
-
-// Axes 1 to 49 are read, as many as a file can hold; more may be written.
-constexpr long kMaxGelesen = 49;
 
 // Greater than any distance between a point and a node.
 constexpr double kKeinKnoten = 1e30;
@@ -58,7 +56,7 @@ bool IsFixed(const Achsen& achsen, int i) {
 
 void ReadAxes(CIniFile& document, lintavo::StringId prefix, Achsen& achsen) {
   achsen.emplace_back(0.0, false);
-  for (long i = 1; i <= kMaxGelesen; ++i) {
+  for (long i = 1; i <= lintavo::kMaxAchsen; ++i) {
     double d = 0.0;
     if (!document.GetDouble(lintavo::Text(lintavo::StringId::Achsen),
                             lintavo::NumberedName(prefix, i), d)) {

@@ -33,7 +33,9 @@ class LINTAVO_API CMAchsen {
  public:
   CMAchsen() = default;
   CMAchsen(const CMAchsen&) = default;
+  CMAchsen(CMAchsen&&) noexcept = default;
   CMAchsen& operator=(const CMAchsen&) = default;
+  CMAchsen& operator=(CMAchsen&&) noexcept = default;
   virtual ~CMAchsen() = default;
 
   int iGetCntHori() const { return static_cast<int>(horizontal_.size()); }

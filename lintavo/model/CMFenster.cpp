@@ -94,14 +94,15 @@ CMFenster& CMFenster::operator=(const CMFenster& other) {
 }
 
 void CMFenster::Delete() {
+  // The frame is made anew, template included: nothing of one file may show in
+  // the next.
+  CMFensterSatz leer;
+  rahmen_ = std::move(leer);
   name_.Empty();
   typName_.Empty();
   bitmap1_.Empty();
   bitmap2_.Empty();
   achsen_.Delete();
-  // The frame is made anew, template included: nothing of one file may show in
-  // the next.
-  rahmen_ = CMFensterSatz();
   zusatzMasze_.clear();
   fluegel_.clear();
   box_ = Box{};
@@ -130,6 +131,13 @@ void CMFenster::Invalidiere(bool neuLaden) {
 long CMFenster::GetFehler(CString& text) const {
   text = fehlerText_;
   return fehlerNummer_;
+}
+
+// Keeps how an operation ended; true when without an error.
+bool CMFenster::FehlerMerken(CMException&& fehler) {
+  fehlerNummer_ = fehler.iNummer;
+  fehlerText_ = std::move(fehler.strText);
+  return fehlerNummer_ == 0;
 }
 
 void CMFenster::SetErrorMsg(const CString& text) {

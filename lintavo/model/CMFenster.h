@@ -32,9 +32,11 @@ class CIniFile;
 /// right and y upwards, seen from inside the building.
 ///
 /// Reading and calculating never throw: they answer false and keep the error's
-/// number and text. Operations that build the window step by step
-/// (`AddFluegel`, `ZusatzMaszeFuerBreiteUndHoeheAutomatisch`, the dimension
-/// steps) throw `CMException`.
+/// number and text; running out of memory has the number 1. Operations that build
+/// the window step by step (`AddFluegel`,
+/// `ZusatzMaszeFuerBreiteUndHoeheAutomatisch`, the dimension steps) throw
+/// `CMException`. Whatever else hands out or stores lists or texts may throw
+/// std::bad_alloc.
 class LINTAVO_API CMFenster {
  public:
   CMFenster();
@@ -44,7 +46,8 @@ class LINTAVO_API CMFenster {
 
   // --- state -----------------------------------------------------------------
 
-  /// Empties the window and clears the error.
+  /// Empties the window and clears the error. Throws std::bad_alloc, with nothing
+  /// changed: an empty frame needs some memory, too.
   void Delete();
   /// True once the window was read or changed after its last calculation.
   bool IsNeu() const { return neu_; }
@@ -288,7 +291,7 @@ class LINTAVO_API CMFenster {
   ///
   /// The same window always gives the same lines in the same order. True when there
   /// are lines; false, without any, for a window that is not calculated and for a
-  /// picture of more than a million lines.
+  /// picture of more than 100,000 lines.
   bool GetHiddenLineBild(std::vector<CMStrecke>& lines, bool bVonAussen) const;
 
   /// Dumps the window and its frame polygon, readable, to standard error; nothing in
@@ -305,6 +308,8 @@ class LINTAVO_API CMFenster {
     double ymax = 0.0;
   };
 
+  bool FehlerMerken(CMException&& fehler);
+  bool Lies(CIniFile& document);
   bool SaveParameterBlankoFormularToBuffer(CIniFile& document) const;
   void KnotenIndizesSenken(long dj, long dk);
   void FluegelFormBeiwerteAnpassen(bool bVerti, long i1, long i2, const CMAchsen& before);

@@ -5,6 +5,7 @@
 #include "lintavo/geom/PolygonVereinigung.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/model/CMFenster.h"
+#include "lintavo/model/Fehler_intern.h"
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/Auflager_intern.h"
 
@@ -73,17 +74,9 @@ void EndeAnschliessen(CMBauteil& bauteil, Ende ende, const GEOM2_Polygon& kontur
 }  // namespace
 
 bool CMFenster::Berechne(bool bPfostenRiegelAutomatisch) {
-  fehlerNummer_ = 0;
-  fehlerText_.Empty();
-  try {
-    Rechne(bPfostenRiegelAutomatisch);
-  } catch (const CMException& e) {
-    fehlerNummer_ = e.iNummer;
-    fehlerText_ = e.strText;
-    return false;
-  }
-  neu_ = false;
-  return true;
+  const bool ok = FehlerMerken(lintavo::FehlerVon([&] { Rechne(bPfostenRiegelAutomatisch); }));
+  if (ok) neu_ = false;
+  return ok;
 }
 
 void CMFenster::Rechne(bool bPfostenRiegelAutomatisch) {

@@ -6,6 +6,8 @@
 #include "lintavo/ini/CIniFile.h"
 #include "lintavo/model/Achsbereich_intern.h"
 #include "lintavo/model/CMFenster.h"
+#include "lintavo/model/Fehler_intern.h"
+#include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/platform/Numbers_intern.h"
 #include "lintavo/resources/StringTable.h"
 
@@ -16,9 +18,6 @@ using lintavo::Text;
 namespace {
 
 constexpr const char* kVersion = "1.00";
-
-// As many sashes and dimensions as a file can hold; more may be written.
-constexpr long kMaxGelesen = 49;
 
 // Lengths in a parameter form are ten times those of the model.
 constexpr double kFormularFaktor = 10.0;
@@ -136,41 +135,43 @@ CMKnoten ShiftedToAxes(const CMKnoten& knoten, long dj, long dk) {
 }  // namespace
 
 bool CMFenster::ReadFromFile(const CString& path) {
-  try {
+  CMException fehler = lintavo::FehlerVon([&] {
     if (path.IsEmpty()) throw CMException(static_cast<int>(StringId::MeldungDateiFehlt), path);
     Delete();
     dateiName_ = path;
-    fehlerNummer_ = 1;
     CIniFile document;
     if (!document.Read(path)) {
       throw CMException(static_cast<int>(StringId::MeldungDateiFehlt), path);
     }
     // The result is not looked at, on purpose: a document that lacks the frame
     // is an empty window, not an unreadable file.
-    ReadFromBuffer(document);
-    fehlerNummer_ = 0;
-    return true;
-  } catch (const CMException& e) {
-    Delete();
-    fehlerText_ = e.strText;
-    fehlerNummer_ = e.iNummer;
-    return false;
-  }
+    Lies(document);
+  });
+  // Without memory it may stay as far as it was read.
+  if (fehler.iNummer != 0) lintavo::FehlerVon([&] { Delete(); });
+  return FehlerMerken(std::move(fehler));
 }
 
 bool CMFenster::ReadFromBuffer(CIniFile& document) {
+  bool gelesen = false;
+  CMException fehler = lintavo::FehlerVon([&] { gelesen = Lies(document); });
+  if (fehler.iNummer == 0) return gelesen;
+  return FehlerMerken(std::move(fehler));
+}
+
+bool CMFenster::Lies(CIniFile& document) {
   const CString general = Text(StringId::Allgemeines);
   document.GetString(general, Text(StringId::Name), name_);
   document.GetString(general, Text(StringId::Bitmap1), bitmap1_);
   document.GetString(general, Text(StringId::Bitmap2), bitmap2_);
   if (!achsen_.ReadFromIniFile(document)) return false;
-  for (long i = 1; i <= kMaxGelesen; ++i) {
+  for (long i = 1; i <= lintavo::kMaxMasze; ++i) {
     CMZusatzMasz masz;
     if (!ReadZusatzMasz(document, NumberedName(StringId::MaszSektion, i), masz)) break;
     AddZusatzMasz(masz);
   }
   if (!rahmen_.ReadFromIniFile(Text(StringId::Rahmen), document)) return false;
-  for (long i = 1; i <= kMaxGelesen; ++i) {
+  for (long i = 1; i <= lintavo::kMaxFluegel; ++i) {
     const CString section = NumberedName(StringId::Fluegel, i);
     double typ[2];
     if (!document.GetDoubles(section, Text(StringId::Typ), 2, typ)) break;
@@ -276,7 +277,6 @@ void CMFenster::AchsRasterOptimieren() {
   const long minK = std::clamp(benutzt.minK, 0L, lastK);
   const long maxK = std::clamp(benutzt.maxK, 0L, lastK);
 
-  if (minJ >= 1 || minK >= 1) KnotenIndizesSenken(minJ, minK);
   XY first;
   achsen_.GetPunkt(static_cast<int>(minJ), static_cast<int>(minK), first);
   const bool moves = std::fabs(first.x) > 0.0 || std::fabs(first.y) > 0.0;
@@ -290,7 +290,9 @@ void CMFenster::AchsRasterOptimieren() {
   for (long k = minK; k < maxK; ++k) {
     compact.AddHori(achsen_.dGetAchsAbstY(static_cast<int>(k) + 1));
   }
-  achsen_ = compact;
+  // Nothing from here on needs memory: the nodes and the grid go together.
+  if (minJ >= 1 || minK >= 1) KnotenIndizesSenken(minJ, minK);
+  achsen_ = std::move(compact);
   // Mullions lie where the grid was.
   if (moves) Invalidiere();
 }

@@ -10,6 +10,7 @@
 #include "lintavo/geom/Vektor_intern.h"
 #include "lintavo/model/CMFenster.h"
 #include "lintavo/platform/Arbeitsspeicher_intern.h"
+#include "lintavo/platform/Grenzen_intern.h"
 
 using lintavo::Differenz;
 using lintavo::Kreuzprodukt;
@@ -120,9 +121,6 @@ bool IsBetween(const CMBauteil& bauteil, const CMKnoten& k1, const CMKnoten& k2)
 }
 
 // --- cutting ------------------------------------------------------------------
-
-// Ends come to rest after a few passes; this bounds bars piled on each other.
-constexpr int kMaxSchnittgaenge = 50;
 
 // A mullion or transom with its outline before any end is cut back.
 struct Stab {
@@ -287,7 +285,7 @@ void CMFenster::PfostenUndRiegelVerschneiden(const GEOM2_Polygon& innen) {
   }
   // An end that was cut back may now lie in a bar that it did not touch before.
   // Going on until every end rests leaves nothing for a second calculation.
-  for (int pass = 0; pass < kMaxSchnittgaenge; ++pass) {
+  for (int pass = 0; pass < lintavo::kMaxSchnittgaenge; ++pass) {
     if (!EndenZurueckschneiden(rahmen_.EinzelTeile)) break;
   }
   // A shorter axis leaves less room for the lean of a cut at the frame. One that nothing

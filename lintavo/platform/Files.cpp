@@ -1,14 +1,16 @@
 // Opening, reading and listing.
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
-#include <filesystem>
+#include <new>
 #include <string>
 #include <string_view>
-#include <system_error>
 
 #include "lintavo/platform/Files_intern.h"
 
 #ifdef _WIN32
+#include <filesystem>
+#include <system_error>
 #ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN
 #endif
@@ -17,14 +19,21 @@
 #endif
 #include <windows.h>
 #else
+#include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 #endif
 
 namespace {
 
-namespace fs = std::filesystem;
+// What could not be opened for want of memory is no missing file.
+void ThrowIfOutOfMemory() {
+  if (errno == ENOMEM) throw std::bad_alloc();
+}
 
 #ifdef _WIN32
+
+namespace fs = std::filesystem;
 
 constexpr char kSeparator = '\\';
 
@@ -62,14 +71,21 @@ CString FromSystemPath(const fs::path& path) {
   return std::string(text.begin(), text.end());
 }
 
+void AddEntries(const CString& folder, std::vector<lintavo::FolderEntry>& entries) {
+  std::error_code error;
+  fs::directory_iterator place(lintavo::ToSystemPath(folder), error);
+  for (const fs::directory_iterator end; !error && place != end; place.increment(error)) {
+    std::error_code unknown;
+    const bool isFolder = place->symlink_status(unknown).type() == fs::file_type::directory;
+    if (!isFolder && !place->is_regular_file(unknown)) continue;
+    entries.push_back({FromSystemPath(place->path().filename()), isFolder});
+  }
+}
+
 #else
 
 std::FILE* Open(const CString& path, const char* mode) {
   return std::fopen(path, mode);
-}
-
-CString FromSystemPath(const fs::path& path) {
-  return path.string();
 }
 
 constexpr char kSeparator = '/';
@@ -106,6 +122,34 @@ bool IsFolder(std::FILE* file) {
   return ::fstat(::fileno(file), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+struct CloseFolder {
+  void operator()(DIR* folder) const { ::closedir(folder); }
+};
+
+bool IsPlaceItself(const char* name) {
+  return std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0;
+}
+
+// Not by the standard library's iterator, which ends the program where there is no
+// memory for a path.
+void AddEntries(const CString& folder, std::vector<lintavo::FolderEntry>& entries) {
+  const std::unique_ptr<DIR, CloseFolder> place(::opendir(folder));
+  if (place == nullptr) {
+    ThrowIfOutOfMemory();
+    return;
+  }
+  while (const dirent* entry = ::readdir(place.get())) {
+    if (IsPlaceItself(entry->d_name)) continue;
+    const int at = ::dirfd(place.get());
+    struct stat status {};
+    if (::fstatat(at, entry->d_name, &status, AT_SYMLINK_NOFOLLOW) != 0) continue;
+    const bool isFolder = S_ISDIR(status.st_mode);
+    if (!isFolder && ::fstatat(at, entry->d_name, &status, 0) != 0) continue;
+    if (!isFolder && !S_ISREG(status.st_mode)) continue;
+    entries.push_back({CString(entry->d_name), isFolder});
+  }
+}
+
 #endif
 
 }  // namespace
@@ -114,6 +158,7 @@ namespace lintavo {
 
 FilePtr OpenFile(const CString& path, const char* mode) {
   FilePtr file(Open(PathToRead(path), mode));
+  if (file == nullptr) ThrowIfOutOfMemory();
   // Elsewhere than on Windows a folder opens for reading like an empty file.
   if (file != nullptr && IsFolder(file.get())) file.reset();
   return file;
@@ -154,14 +199,7 @@ std::filesystem::path ToSystemPath(const CString& path) {
 
 std::vector<FolderEntry> ListFolder(const CString& folder) {
   std::vector<FolderEntry> entries;
-  std::error_code error;
-  fs::directory_iterator place(ToSystemPath(ExistingPath(folder)), error);
-  for (const fs::directory_iterator end; !error && place != end; place.increment(error)) {
-    std::error_code unknown;
-    const bool isFolder = place->symlink_status(unknown).type() == fs::file_type::directory;
-    if (!isFolder && !place->is_regular_file(unknown)) continue;
-    entries.push_back({FromSystemPath(place->path().filename()), isFolder});
-  }
+  AddEntries(ExistingPath(folder), entries);
   return entries;
 }
 

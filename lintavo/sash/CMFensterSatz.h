@@ -77,6 +77,8 @@ class LINTAVO_API CMFensterSatz {
  public:
   CMFensterSatz();
   CMFensterSatz(const CMFensterSatz&) = default;
+  CMFensterSatz(CMFensterSatz&&) noexcept = default;
+  CMFensterSatz& operator=(CMFensterSatz&&) noexcept = default;
 
   // --- virtual operations, in the order that every shape keeps ---------------
 
@@ -263,6 +265,11 @@ class LINTAVO_API CMFensterSatz {
   /// @return false, with an empty contour, when there is no inner contour, and
   ///         for slats in a contour without height or width.
   bool GetFuellung(long nummer, GEOM2_Polygon& contour, std::vector<CMBauteil>& slats) const;
+  /// Number of those slats, 0 for any other filling, and slat `i` of them alone, to the
+  /// bit the same: for hosts that ask for one slat after the other. False, with
+  /// `lamelle` left alone, when there is no slat `i`.
+  long GetAnzahlLamellen() const;
+  bool GetLamelle(long nummer, long i, CMBauteil& lamelle) const;
 
   /// Appends the glass dimensions: the chain from one side of the inner contour's
   /// box to the other along the axes of the bars that run straight across it.
@@ -306,7 +313,7 @@ class LINTAVO_API CMFensterSatz {
   /// drawn, of equals the nearer.
   ///
   /// @return whether the list holds any line then; false, with nothing appended,
-  ///         when the picture would have more than a million lines.
+  ///         when the picture would have more than 100,000 lines.
   bool GetFluegelBild2D(std::vector<CMStrecke>& lines, bool bMitOeffnungssymbol) const;
 
   // --- fields ----------------------------------------------------------------
@@ -361,6 +368,7 @@ class LINTAVO_API CMFensterSatz {
   bool InnenPolygon(bool mitZusatzteilen, const GEOM2_Polygon& polygon, GEOM2_Polygon& out) const;
   bool SprossenKontur(GEOM2_Polygon& contour) const;
   bool KonturLesen(bool mitZusatzteilen, GEOM2_Polygon& contour) const;
+  bool FuellungsKontur(GEOM2_Polygon& contour) const;
   bool MaszeGlaslichte(bool hori, std::vector<CMStrecke>& masze) const;
   void SymbolDreh(const XY& tl, const XY& bl, const XY& tr, const XY& br,
                   const GEOM2_Polygon& contour, std::vector<CMStrecke>& lines) const;

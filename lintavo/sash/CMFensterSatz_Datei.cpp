@@ -6,6 +6,7 @@
 
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/ini/CIniFile.h"
+#include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/platform/Numbers_intern.h"
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/Bauteilfelder_intern.h"
@@ -18,10 +19,6 @@ using lintavo::Text;
 namespace feld = lintavo::feld;
 
 namespace {
-
-// Highest running numbers that are read.
-constexpr long kMaxRahmenteile = 101;
-constexpr long kMaxEintraege = 199;
 
 // First two attributes of what the macro file holds, by the kind of component.
 constexpr long kKennungRahmen = 2;
@@ -90,7 +87,7 @@ bool ErkenneEinzelTeil(long anzahl, long& lTyp, Feldliste& felder) {
 }
 
 void ReadEinzelTeile(CIniFile& document, const CString& section, std::vector<CMBauteil>& liste) {
-  for (long i = 1; i <= kMaxEintraege; ++i) {
+  for (long i = 1; i <= lintavo::kMaxTeile; ++i) {
     double werte[kLaengsteListe];
     long anzahl = 0;
     if (!document.GetDoubles(section, NumberedName(StringId::PraefixZ, i), kLaengsteListe, werte,
@@ -106,7 +103,7 @@ void ReadEinzelTeile(CIniFile& document, const CString& section, std::vector<CMB
 }
 
 void ReadBeschlaege(CIniFile& document, const CString& section, std::vector<CMBeschlag>& liste) {
-  for (long i = 1; i <= kMaxEintraege; ++i) {
+  for (long i = 1; i <= lintavo::kMaxTeile; ++i) {
     double werte[kBeschlagsZahlen];
     if (!document.GetDoubles(section, NumberedName(StringId::Beschlag, i), kBeschlagsZahlen,
                              werte)) {
@@ -301,10 +298,10 @@ bool CMFensterSatz::ReadFromIniFile(const CString& section, CIniFile& document) 
 
   ReadGangartFromIniFile(section, document);
   document.GetBool(section, Text(StringId::ZuerstAufgehend), bZuerstAufgehend);
-  ReadBauteile(document, section, StringId::PraefixR, kMaxRahmenteile, eRahmenteil,
+  ReadBauteile(document, section, StringId::PraefixR, lintavo::kMaxRahmenteile, eRahmenteil,
                feld::kRahmenteil, RahmenTeile);
   ReadEinzelTeile(document, section, EinzelTeile);
-  ReadBauteile(document, section, StringId::PraefixS, kMaxEintraege, eSprosse, feld::kSprosse,
+  ReadBauteile(document, section, StringId::PraefixS, lintavo::kMaxTeile, eSprosse, feld::kSprosse,
                Sprossen);
   ReadBeschlaege(document, section, Beschlaege);
   return true;

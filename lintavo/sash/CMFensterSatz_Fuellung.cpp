@@ -5,15 +5,10 @@
 #include <utility>
 
 #include "lintavo/geom/Toleranzen.h"
-#include "lintavo/platform/Numbers_intern.h"
 #include "lintavo/sash/CMFensterSatz.h"
+#include "lintavo/sash/Lamellenlage_intern.h"
 
 namespace {
-
-// As many slats as no real sash has; a damaged file may ask for any number.
-constexpr long kMaxLamellen = 1000;
-// A remaining height up to this gets no slat of its own.
-constexpr double kKleinsterRest = 0.1;
 
 constexpr double kHundertProzent = 100.0;
 constexpr double kRechterWinkel = 90.0;
@@ -24,81 +19,6 @@ void KurzeKantenGlaetten(double minLaenge, GEOM2_Polygon& contour) {
   GEOM2_Polygon glatt = contour;
   glatt.KurzeKantenEntfernen(minLaenge);
   if (glatt.GetAnzahl() >= 3) contour = std::move(glatt);
-}
-
-// How slats share a height: whole ones, and the width of the one above them.
-struct Lamellenteilung {
-  long anzahl = 0;
-  double rest = 0.0;
-};
-
-Lamellenteilung TeileHoehe(double hoehe, double teilung) {
-  // Both truncations are meant, that of the height too, although with it a last
-  // whole slat may come out as the rest: the number of slats is fixed by it.
-  const auto ganzeHoehe = static_cast<double>(lintavo::TruncateToLong(hoehe));
-  const long anzahl = lintavo::TruncateToLong(ganzeHoehe / teilung);
-  if (anzahl >= kMaxLamellen) return {kMaxLamellen, 0.0};
-  return {anzahl, hoehe - static_cast<double>(anzahl) * teilung};
-}
-
-// Lays slats from the bottom up, each behind a gap.
-class Lamellenleger {
- public:
-  Lamellenleger(const CMFuellung& fuellung, long nummer, const GEOM2_Polygon& contour,
-                std::vector<CMBauteil>& slats)
-      : luecke_(fuellung.D1), contour_(contour), slats_(slats) {
-    contour.GetMinMax(min_, max_);
-    y_ = min_.y;
-    vorlage_.lTyp = eLamelle;
-    vorlage_.dDicke = fuellung.D3;
-    vorlage_.lAttribut[0] = fuellung.I1;
-    vorlage_.lAttribut[1] = fuellung.I2;
-    vorlage_.lAttribut[2] = fuellung.I3;
-    vorlage_.lAttribut[3] = fuellung.I4;
-    vorlage_.lReferenz = nummer;
-  }
-
-  double Hoehe() const { return max_.y - min_.y; }
-  bool HatFlaeche() const {
-    return max_.x - min_.x >= lintavo::kNullLaenge && Hoehe() >= lintavo::kNullLaenge;
-  }
-
-  void Lege(double breite) {
-    y_ += breite / 2.0 + luecke_;
-    GEOM2_Achse achse;
-    if (GEOM2_Polygon::SetAchse({min_.x, y_}, {max_.x, y_}, achse) &&
-        contour_.AchseClippen(achse, breite / 2.0)) {
-      CMBauteil& lamelle = slats_.emplace_back(vorlage_);
-      lamelle.dBreite = breite;
-      lamelle.DeleteAchsen();
-      lamelle.AddAchse(achse);
-    }
-    y_ += breite / 2.0;
-  }
-
- private:
-  double luecke_;
-  const GEOM2_Polygon& contour_;
-  std::vector<CMBauteil>& slats_;
-  CMBauteil vorlage_;
-  XY min_;
-  XY max_;
-  double y_ = 0.0;
-};
-
-bool LegeLamellen(const CMFuellung& fuellung, long nummer, const GEOM2_Polygon& contour,
-                  std::vector<CMBauteil>& slats) {
-  Lamellenleger leger(fuellung, nummer, contour, slats);
-  if (!leger.HatFlaeche()) return false;
-  const double breite = fuellung.D2;
-  const double teilung = breite + fuellung.D1;
-  if (!(breite > lintavo::kNullLaenge && teilung >= lintavo::kNullLaenge)) return true;
-  if (!std::isfinite(breite) || !std::isfinite(teilung)) return true;
-
-  const Lamellenteilung lage = TeileHoehe(leger.Hoehe(), teilung);
-  for (long i = 0; i < lage.anzahl; ++i) leger.Lege(breite);
-  if (lage.rest > kKleinsterRest) leger.Lege(lage.rest);
-  return true;
 }
 
 // Whether a bar crosses the measured direction at a right angle, whichever way
@@ -141,15 +61,38 @@ double ImBereich(double abstand, eVermaszung mode, double laenge) {
 
 }  // namespace
 
-bool CMFensterSatz::GetFuellung(long nummer, GEOM2_Polygon& contour,
-                                std::vector<CMBauteil>& slats) const {
+bool CMFensterSatz::FuellungsKontur(GEOM2_Polygon& contour) const {
   contour.Clear();
   if (!KonturLesen(true, contour)) {
     contour.Clear();
     return false;
   }
   KurzeKantenGlaetten(Fuellung.D7, contour);
-  return !Fuellung.IsLamellen() || LegeLamellen(Fuellung, nummer, contour, slats);
+  return true;
+}
+
+bool CMFensterSatz::GetFuellung(long nummer, GEOM2_Polygon& contour,
+                                std::vector<CMBauteil>& slats) const {
+  if (!FuellungsKontur(contour)) return false;
+  if (!Fuellung.IsLamellen()) return true;
+  lintavo::Lamellenlage lage(Fuellung, nummer, contour);
+  CMBauteil lamelle;
+  for (long platz = 0; platz < lage.Plaetze(); ++platz) {
+    if (lage.Lege(platz, lamelle)) slats.push_back(lamelle);
+  }
+  return lage.HatFlaeche();
+}
+
+long CMFensterSatz::GetAnzahlLamellen() const {
+  GEOM2_Polygon contour;
+  if (!Fuellung.IsLamellen() || !FuellungsKontur(contour)) return 0;
+  return lintavo::Lamellenlage(Fuellung, 0, contour).Anzahl();
+}
+
+bool CMFensterSatz::GetLamelle(long nummer, long i, CMBauteil& lamelle) const {
+  GEOM2_Polygon contour;
+  if (!Fuellung.IsLamellen() || !FuellungsKontur(contour)) return false;
+  return lintavo::Lamellenlage(Fuellung, nummer, contour).LegeNummer(i, lamelle);
 }
 
 bool CMFensterSatz::GetMaszeGlaslichteHori(std::vector<CMStrecke>& masze) const {

@@ -6,6 +6,7 @@
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/ini/CIniFile.h"
 #include "lintavo/model/CMException.h"
+#include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/CMFensterSatz.h"
 
@@ -20,7 +21,6 @@ constexpr double kBereichEinfach = 100.0;
 // A pattern that does not give these gets them unscaled.
 constexpr double kSprossenBreite = 3.0;
 constexpr double kSprossenDicke = 2.0;
-constexpr long kMaxSprossen = 999;
 constexpr long kSprossenZahlen = 4;
 
 void Normalisiere(GEOM2_Polygon& contour) {
@@ -119,7 +119,7 @@ bool CMFensterSatz::ErzeugeSprossenBild(long nummer, CIniFile& pattern, double b
 
   const auto addBars = [&](StringId prefix, auto achseVon) {
     double werte[kSprossenZahlen];
-    for (long i = 1; i <= kMaxSprossen; ++i) {
+    for (long i = 1; i <= lintavo::kMaxBildsprossen; ++i) {
       const CString key = NumberedName(prefix, i);
       if (!pattern.GetDoubles(Text(StringId::Allgemeines), key, kSprossenZahlen, werte)) return;
       SprosseAnfuegen(vorlage, achseVon(bild, werte), contour);

@@ -6,15 +6,13 @@
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
 #include "lintavo/model/CMException.h"
+#include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/platform/Numbers_intern.h"
 #include "lintavo/sash/CMFensterSatz.h"
 
 namespace lintavo {
 
 namespace {
-
-// No drawing has more lines than this; two crossing patterns of a thousand bars do.
-constexpr std::size_t kGroesstesBild = 1'000'000;
 
 // Gathers the parts of a layer.
 class Teilesammler {
@@ -148,7 +146,7 @@ bool Sichtbild::ZeichneTeil(const Bildteil& teil, std::size_t ebene, const Verde
     verdeckung_.Beschatten(a, b, ebene, blick_);
     innerhalb.Beschatten(a, b, nr, blick_);
     for (const Abschnitt& abschnitt : UebrigeAbschnitte({{0.0, laenge}}, blick_.Innen())) {
-      if (kanten_.size() == kGroesstesBild) return false;
+      if (kanten_.size() == kMaxBildkanten) return false;
       const Teilstueck stueck = TeilDerKante(a, b, laenge, abschnitt);
       Bildkante& kante = kanten_.emplace_back();
       kante.strecke.SetPunkte(stueck.a, stueck.b);

@@ -42,7 +42,7 @@ class Sichtbild {
   /// The same for a layer that covers with a whole outline.
   void AddEbene(std::vector<Bildteil> teile, const GEOM2_Polygon& flaeche);
   /// Appends the visible edges, common ones once. False, with nothing appended, when
-  /// there are more than a million pieces. Call once.
+  /// there are more than 100,000 pieces. Call once.
   bool Zeichnen(std::vector<CMStrecke>& lines);
 
  private:

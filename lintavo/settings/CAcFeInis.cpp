@@ -1,5 +1,7 @@
 #include "lintavo/settings/CAcFeInis.h"
 
+#include <utility>
+
 #include "lintavo/resources/StringTable.h"
 
 using lintavo::StringId;
@@ -76,19 +78,23 @@ CAcFeInis::~CAcFeInis() = default;
 bool CAcFeInis::ReadMaterials(const CString& path) {
   CIniFile document;
   if (!document.Read(path)) return false;
-  for (CAcMatList* list : {&MaszMaterialien, &SymbolMaterialien, &BauteilMaterialien}) {
-    list->Delete();
-  }
-  MaszMaterialien.LoadFromIniFile(document, Text(StringId::Vermaszung));
-  SymbolMaterialien.LoadFromIniFile(document, Text(StringId::Oeffnungssymbol));
-  BauteilMaterialien.LoadFromIniFile(document, Text(StringId::Bauteil));
+  // All three are read before one is replaced: running out of memory changes none.
+  CAcMatList masze;
+  CAcMatList symbole;
+  CAcMatList bauteile;
+  masze.LoadFromIniFile(document, Text(StringId::Vermaszung));
+  symbole.LoadFromIniFile(document, Text(StringId::Oeffnungssymbol));
+  bauteile.LoadFromIniFile(document, Text(StringId::Bauteil));
+  MaszMaterialien = std::move(masze);
+  SymbolMaterialien = std::move(symbole);
+  BauteilMaterialien = std::move(bauteile);
   return true;
 }
 
 bool CAcFeInis::ReadMaterialIniFile(const CString& path) {
   CIniFile document;
   if (!document.Read(path)) return false;
-  MaterialIni = document;
+  MaterialIni = std::move(document);
   return true;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "lintavo/ini/CIniFile.h"
+#include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/platform/Numbers_intern.h"
 #include "lintavo/resources/StringTable.h"
 
@@ -10,9 +11,6 @@ using lintavo::StringId;
 using lintavo::Text;
 
 namespace {
-
-// A damaged file must not be searched without end.
-constexpr long kMaxMaterialien = 9999;
 
 // A texture's name has an ending: shorter texts name none.
 constexpr int kKuerzesteTextur = 5;
@@ -97,7 +95,7 @@ bool CAcMatList::LoadFromIniFile(CIniFile& document, const CString& prefix, long
 
 bool CAcMatList::LoadFromIniFile(CIniFile& document, const CString& prefix) {
   const long before = GetCnt();
-  for (long i = 1; i <= kMaxMaterialien; ++i) {
+  for (long i = 1; i <= lintavo::kMaxMaterialien; ++i) {
     CAcMatEntry entry;
     if (!LoadFromIniFile(document, prefix, i, entry)) break;
     // Without looking for an equal one, on purpose: the place of a material is

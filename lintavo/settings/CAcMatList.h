@@ -16,7 +16,9 @@ class LINTAVO_API CAcMatList {
  public:
   CAcMatList() = default;
   CAcMatList(const CAcMatList&) = default;
+  CAcMatList(CAcMatList&&) noexcept = default;
   CAcMatList& operator=(const CAcMatList&) = default;
+  CAcMatList& operator=(CAcMatList&&) noexcept = default;
   virtual ~CAcMatList();
 
   /// Reads section prefix + index into an entry; a missing key leaves its field

@@ -8,6 +8,7 @@
 #include "lintavo/geom/CMStrecke.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/ini/CIniFile.h"
+#include "lintavo/model/Fehler_intern.h"
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/settings/Dateiname_intern.h"
 
@@ -86,15 +87,12 @@ CMFensterPosition::CMFensterPosition()
 // Runs the steps of a read on an empty position and keeps what they throw.
 template <class Schritte>
 bool CMFensterPosition::Lies(Schritte schritte) {
-  fenster_ = CMFenster();
-  texte_.fill(CString());
-  CMException fehler;
-  try {
+  CMException fehler = lintavo::FehlerVon([&] {
+    texte_.fill(CString());
+    fenster_ = CMFenster();
     schritte();
-  } catch (const CMException& e) {
-    fehler = e;
-  }
-  fehlerText_ = fehler.strText;
+  });
+  fehlerText_ = std::move(fehler.strText);
   fehlerNummer_ = fehler.iNummer;
   return fehlerNummer_ == 0;
 }
@@ -135,8 +133,8 @@ bool CMFensterPosition::SaveToFile(const CString& path) {
   CString section = Text(StringId::Allgemeines);
   document.SetString(section, Text(StringId::Text), EineZeile(texte_.front()));
   if (!path.IsEmpty() && document.Write(path)) return true;
-  const CMException fehler = Meldung(StringId::MeldungDateiNichtGespeichert, path);
-  fehlerText_ = fehler.strText;
+  CMException fehler = Meldung(StringId::MeldungDateiNichtGespeichert, path);
+  fehlerText_ = std::move(fehler.strText);
   fehlerNummer_ = fehler.iNummer;
   return false;
 }

@@ -17,7 +17,8 @@ class CIniFile;
 /// A window position: the window, its texts and the last error.
 ///
 /// The object owns its window; a copy is deep. Reading never throws: it answers
-/// false and keeps the error's number and text. Every read starts from an empty
+/// false and keeps the error's number and text, the number 1 for running out of
+/// memory; everything else may throw std::bad_alloc. Every read starts from an empty
 /// window without texts. After a failed one the window holds what was read until
 /// then, and the object may be read anew.
 ///

@@ -7,6 +7,7 @@
 
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/ini/CIniFile.h"
+#include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/platform/Numbers_intern.h"
 #include "lintavo/platform/Whitespace_intern.h"
 #include "lintavo/resources/StringTable.h"
@@ -23,13 +24,6 @@ namespace feld = lintavo::feld;
 namespace {
 
 constexpr double kZehntel = 0.1;
-
-// Highest running number of extra parts and of patterns that is read.
-constexpr long kMaxEintraege = 999;
-
-// As many lines as all patterns of a window may have together. Windows need a
-// hundredth of that; more would only cost time and memory.
-constexpr std::size_t kMaxBildzeilen = 20000;
 
 constexpr const char* kKeinSprossenbild = "00";
 
@@ -90,7 +84,7 @@ std::vector<std::size_t> AussenTeile(const std::vector<CMBauteil>& liste) {
 // would double its parts.
 void ReadAussenTeile(CIniFile& document, const CString& section, CMFensterSatz& rahmen) {
   const std::vector<std::size_t> vorhanden = AussenTeile(rahmen.EinzelTeile);
-  for (std::size_t i = 0; i < kMaxEintraege; ++i) {
+  for (std::size_t i = 0; i < lintavo::kMaxParameter; ++i) {
     CMBauteil bauteil = rahmen.RahmenVorlage;
     if (i < vorhanden.size()) bauteil = rahmen.EinzelTeile[vorhanden[i]];
     bauteil.lTyp = eZusatzteilAussen;
@@ -202,14 +196,14 @@ void CMFensterPosition::ReadFensterSatz(long lArt, const CString& section, CIniF
 }
 
 void CMFensterPosition::ReadSprossenBilder(const CString& folder, CIniFile& document) {
-  std::size_t freieZeilen = kMaxBildzeilen;
+  std::size_t freieZeilen = lintavo::kMaxBildzeilen;
   for (long i = 0; i < fenster_.GetAnzahlFluegel(); ++i) {
     CMFensterSatz& fluegel = *fenster_.GetFluegelPtr(i);
     const CString section = NumberedName(StringId::Fluegel, i + 1);
     // Lines before the first header answer for texts of a section that is not
     // there; a pattern, like every list, is not to be found among them.
     if (document.FindSection(section) < 0) continue;
-    for (long j = 1; j <= kMaxEintraege; ++j) {
+    for (long j = 1; j <= lintavo::kMaxParameter; ++j) {
       CString text;
       if (!document.GetString(section, NumberedName(StringId::Sprossenbild, j), text)) break;
       Bildangabe angabe;

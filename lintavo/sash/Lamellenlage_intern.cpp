@@ -1,0 +1,128 @@
+#include "lintavo/sash/Lamellenlage_intern.h"
+
+#include <cmath>
+#include <vector>
+
+#include "lintavo/geom/Ring_intern.h"
+#include "lintavo/geom/Toleranzen.h"
+#include "lintavo/geom/Vektor_intern.h"
+#include "lintavo/platform/Grenzen_intern.h"
+#include "lintavo/platform/Numbers_intern.h"
+
+namespace lintavo {
+
+namespace {
+
+// A remaining height up to this gets no slat of its own.
+constexpr double kKleinsterRest = 0.1;
+
+bool SindMasze(double breite, double teilung) {
+  return breite > kNullLaenge && teilung >= kNullLaenge && std::isfinite(breite) &&
+         std::isfinite(teilung);
+}
+
+}  // namespace
+
+Lamellenlage::Lamellenlage(const CMFuellung& fuellung, long nummer, const GEOM2_Polygon& contour)
+    : contour_(contour), luecke_(fuellung.D1), breite_(fuellung.D2) {
+  vorlage_.lTyp = eLamelle;
+  vorlage_.dDicke = fuellung.D3;
+  vorlage_.lAttribut[0] = fuellung.I1;
+  vorlage_.lAttribut[1] = fuellung.I2;
+  vorlage_.lAttribut[2] = fuellung.I3;
+  vorlage_.lAttribut[3] = fuellung.I4;
+  vorlage_.lReferenz = nummer;
+  contour.GetMinMax(min_, max_);
+  y_ = min_.y;
+
+  const double teilung = breite_ + luecke_;
+  if (!HatFlaeche() || !SindMasze(breite_, teilung)) return;
+  const double hoehe = max_.y - min_.y;
+  // Both truncations are meant, that of the height too, although with it a last
+  // whole slat may come out as the rest: the number of slats is fixed by it.
+  const auto ganzeHoehe = static_cast<double>(TruncateToLong(hoehe));
+  ganze_ = TruncateToLong(ganzeHoehe / teilung);
+  if (ganze_ >= kMaxLamellen) {
+    ganze_ = kMaxLamellen;
+    return;
+  }
+  rest_ = hoehe - static_cast<double>(ganze_) * teilung;
+  mitRest_ = rest_ > kKleinsterRest;
+}
+
+bool Lamellenlage::HatFlaeche() const {
+  return max_.x - min_.x >= kNullLaenge && max_.y - min_.y >= kNullLaenge;
+}
+
+double Lamellenlage::Mitte(long platz) {
+  if (platz < stand_) {
+    stand_ = 0;
+    y_ = min_.y;
+  }
+  for (; stand_ < platz; ++stand_) {
+    y_ += breite_ / 2.0 + luecke_;
+    y_ += breite_ / 2.0;
+  }
+  return y_ + (Breite(platz) / 2.0 + luecke_);
+}
+
+bool Lamellenlage::Schneide(long platz, GEOM2_Achse& achse) {
+  const double y = Mitte(platz);
+  // Overlapping slats may begin far below the contour: not each is worth a cut.
+  if (y < min_.y - kUeberlagerung || y > max_.y + kUeberlagerung) return false;
+  return GEOM2_Polygon::SetAchse({min_.x, y}, {max_.x, y}, achse) &&
+         contour_.AchseClippen(achse, Breite(platz) / 2.0);
+}
+
+bool Lamellenlage::Lege(long platz, CMBauteil& lamelle) {
+  GEOM2_Achse achse;
+  if (!Schneide(platz, achse)) return false;
+  lamelle = vorlage_;
+  lamelle.dBreite = Breite(platz);
+  lamelle.DeleteAchsen();
+  lamelle.AddAchse(achse);
+  return true;
+}
+
+// The first place that has a slat, or the number of places.
+long Lamellenlage::ErsterPlatz() {
+  GEOM2_Achse achse;
+  long platz = 0;
+  while (platz < Plaetze() && !Schneide(platz, achse)) ++platz;
+  return platz;
+}
+
+// Across a convex contour lines get longer up to some height and shorter from there
+// on, so that there is no place without a slat between two with one.
+bool Lamellenlage::IstLueckenlos() const {
+  std::vector<XY> ring;
+  ring.reserve(static_cast<std::size_t>(contour_.GetAnzahl()));
+  for (int i = 0; i < contour_.GetAnzahl(); ++i) ring.push_back(Ort(contour_.GetEckpunkt(i)));
+  return ring.size() >= 3 && IstKonvex(ring);
+}
+
+long Lamellenlage::Anzahl() {
+  GEOM2_Achse achse;
+  if (IstLueckenlos()) {
+    const long erster = ErsterPlatz();
+    long ende = Plaetze();
+    while (ende > erster && !Schneide(ende - 1, achse)) --ende;
+    return ende - erster;
+  }
+  long anzahl = 0;
+  for (long platz = 0; platz < Plaetze(); ++platz) anzahl += Schneide(platz, achse) ? 1 : 0;
+  return anzahl;
+}
+
+bool Lamellenlage::LegeNummer(long i, CMBauteil& lamelle) {
+  if (i < 0 || i >= Plaetze()) return false;
+  long platz = ErsterPlatz();
+  if (IstLueckenlos()) return platz + i < Plaetze() && Lege(platz + i, lamelle);
+  for (; platz < Plaetze(); ++platz) {
+    GEOM2_Achse achse;
+    if (Schneide(platz, achse) && i-- == 0) return Lege(platz, lamelle);
+  }
+  return false;
+}
+
+}  // namespace lintavo
