@@ -86,7 +86,7 @@ void SammleFuellung(const CFeApi& f, long i, Antworten& antworten) {
   }
 }
 
-void SammleZeichnungen(CFeApi& f, long i, Zahlen& zahlen) {
+void SammleZeichnungen(const CFeApi& f, long i, Zahlen& zahlen) {
   CFeApiStrecken linien;
   for (const int mitSymbol : {0, 1}) {
     if (f.GetFluegelAnsicht(i, mitSymbol, linien) != 0) Sammle(linien, zahlen);
@@ -105,7 +105,7 @@ void SammleZeichnungen(CFeApi& f, long i, Zahlen& zahlen) {
   }
 }
 
-void SammleAnsichten(CFeApi& f, Zahlen& zahlen) {
+void SammleAnsichten(const CFeApi& f, Zahlen& zahlen) {
   for (const int vonAussen : {0, 1}) {
     CFeApiStrecken linien;
     if (f.GetAnsicht(vonAussen, linien) != 0) Sammle(linien, zahlen);
@@ -174,7 +174,7 @@ GEOM2_Polygon UmrissDesPfostens(const CFeApi& f, long i) {
 
 }  // namespace
 
-Antworten FrageAlles(CFeApi& f, bool mitZeichnungen) {
+Antworten FrageAlles(const CFeApi& f, bool mitZeichnungen) {
   Antworten antworten;
   char text[256];
   f.GetFensterBezeichnung(text);
@@ -193,7 +193,7 @@ Antworten FrageAlles(CFeApi& f, bool mitZeichnungen) {
   return antworten;
 }
 
-void FrageFalscheIndizes(CFeApi& f) {
+void FrageFalscheIndizes(const CFeApi& f) {
   Antworten ohne;
   for (const long i : kFalscheIndizes) {
     SammleMasz(f, i, ohne);

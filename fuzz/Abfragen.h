@@ -21,10 +21,10 @@ struct Antworten {
 
 /// Asks for everything that the window says it has; the drawings, which take
 /// most of the time, on request.
-Antworten FrageAlles(CFeApi& fenster, bool mitZeichnungen = true);
+Antworten FrageAlles(const CFeApi& fenster, bool mitZeichnungen = true);
 
 /// Asks for what it has not: indices and kinds out of range.
-void FrageFalscheIndizes(CFeApi& fenster);
+void FrageFalscheIndizes(const CFeApi& fenster);
 
 /// Hands every setter what it must refuse or bear.
 void SetzeUnsinn(CFeApi& fenster);
