@@ -105,10 +105,12 @@ class Entwerfer {
     return frei;
   }
 
-  // Leaves sashes away as long as the others hang together.
+  // Leaves sashes away as long as the others hang together. (Other shapes may come off a
+  // neighbour that they touch with little more than a corner of their placement.)
   void LassLuecken() {
+    const bool eckig = stil_ == Stil::kRechtecke;
     const int anzahl =
-        wuerfel_.Mit(25) ? wuerfel_.Zahl(0, static_cast<int>(felder_.size()) / 3) : 0;
+        eckig && wuerfel_.Mit(50) ? wuerfel_.Zahl(0, static_cast<int>(felder_.size()) / 3) : 0;
     for (int i = 0; i < anzahl && felder_.size() > 1; ++i) {
       std::vector<Feld> rest = felder_;
       rest.erase(rest.begin() + wuerfel_.Zahl(0, static_cast<int>(rest.size()) - 1));
