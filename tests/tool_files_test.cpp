@@ -132,6 +132,7 @@ TEST_F(ToolFiles, StandardStreamsStandForFiles) {
   ExpectOutput("lintavo show - <\"$E/windows/drehkipp_einfluegelig.cqz\"", "Size    100 x 130");
   ExpectOutput("lintavo convert \"$E/windows/rundbogen.aqz\" --to buffer -o - | lintavo show -",
                "Size    100 x 150");
+  ExpectOutput("cat '" + kFanlight + "' | lintavo show /dev/stdin", "Size    240 x 175");
   ExpectOutput("lintavo fit - 270 190 -o - <'" + kFanlight + "' | lintavo show -",
                "Size    270 x 190");
   ExpectOutput("lintavo set - Breite=250 -o - <'" + kFanlight + "' | lintavo check -",

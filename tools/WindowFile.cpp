@@ -20,11 +20,20 @@ bool IsCompressed(const std::string& path) {
   return CFeApi::IsFileCompressed(path.c_str()) == 1;
 }
 
+// What can be read once only, as a pipe under a name.
+bool IsStream(const std::string& path) {
+  if (path == kStandardStream) return true;
+  std::error_code unknown;
+  const std::filesystem::file_status status = std::filesystem::status(path, unknown);
+  return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status) &&
+         !std::filesystem::is_directory(status);
+}
+
 // The library itself finds files that it alone can name, so it is asked for all that
 // it can read by itself.
 int ReadWindow(const std::string& path, const std::string& bytes, CFeApi& window) {
   const MacroForm form = FormOf(path, bytes);
-  if (path == kStandardStream || form == MacroForm::kBuffer) {
+  if (IsStream(path) || form == MacroForm::kBuffer) {
     return ReadLines(LinesOf(bytes, form), window);
   }
   if (form == MacroForm::kPlain) return window.ReadFromFile(path.c_str());
@@ -84,7 +93,7 @@ bool ReadPosition(const std::string& path, const std::string& baseDirectory,
 }  // namespace
 
 MacroForm FormOf(const std::string& path, std::string_view bytes) {
-  if (path == kStandardStream) return FormOf(bytes);
+  if (IsStream(path)) return FormOf(bytes);
   if (IsCompressed(path)) return MacroForm::kCompressed;
   return IsBuffer(bytes) ? MacroForm::kBuffer : MacroForm::kPlain;
 }

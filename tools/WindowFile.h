@@ -16,7 +16,8 @@ namespace lintavo::tools {
 std::string LibraryMessage(const CFeApi& window, const std::string& otherwise);
 
 /// The form of a file: compressed when its name ends in "cqz", a buffer when its content
-/// shows it, else plain. On standard input the content alone tells.
+/// shows it, else plain. On standard input, or another pipe, the content
+/// alone tells.
 MacroForm FormOf(const std::string& path, std::string_view bytes);
 
 /// Reads and calculates a macro file in the form that `FormOf` tells. Throws `CommandError` with
