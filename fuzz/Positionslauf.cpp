@@ -78,7 +78,7 @@ void FrageListe(CAcMatList& list, CIniFile& document) {
   list.AddNoCompared(nullptr);
 }
 
-std::vector<double> Zahlen(const CAcFeInis& s) {
+std::vector<double> AlleWerte(const CAcFeInis& s) {
   return {s.dMaszlinienFaktor,
           s.dTexthoehe,
           s.dTextbreite,
@@ -102,7 +102,7 @@ std::string PruefeGespeichert(const CAcFeInis& settings) {
   copy.SaveGenerelles(document);
   CAcFeInis back;
   back.ReadGenerelles(document);
-  return !SindEndlich(Zahlen(pixels)) || GleicheZahlen(Zahlen(back), Zahlen(pixels))
+  return !SindEndlich(AlleWerte(pixels)) || GleicheZahlen(AlleWerte(back), AlleWerte(pixels))
              ? ""
              : "settings that were saved come back otherwise";
 }

@@ -18,7 +18,6 @@ using lintavo::KopiereText;
 namespace {
 
 constexpr char kPufferTrenner = '#';
-constexpr int kWagenruecklauf = '\r';
 
 CString PathOf(const char* path) {
   return CString(path);
@@ -93,7 +92,7 @@ int CFeApi::ReadFromCompressedFile(const char* path) {
   return MitFehler(*pFenster_, [&] {
     lintavo::KomprimierterText text;
     if (!lintavo::LiesKomprimiert(PathOf(path), text)) return 0;
-    return ReadFromBuffer(text.lLaenge, text.Bytes, kWagenruecklauf);
+    return ReadFromBuffer(text.lLaenge, text.Bytes, lintavo::kKomprimiertTrenner);
   });
 }
 

@@ -19,7 +19,6 @@ constexpr const char* kEndungPlain = "aqz";
 constexpr const char* kEndungKomprimiert = "cqz";
 constexpr const char* kEndungTemporaer = "tmp";
 constexpr int kEndungLaenge = 3;
-constexpr int kWagenruecklauf = '\r';
 
 bool HatEndung(const CString& path, const char* endung) {
   return path.Right(kEndungLaenge).CompareNoCase(endung) == 0;
@@ -30,12 +29,13 @@ bool HatEndung(const CString& path, const char* endung) {
 bool NameAusZeilen(const lintavo::KomprimierterText& text, CString& name) {
   const CString key = lintavo::Text(lintavo::StringId::Name);
   bool found = false;
-  lintavo::JedeZeile(text.lLaenge, text.Bytes, kWagenruecklauf, [&](std::string_view bytes) {
-    const CString line(bytes);
-    found = line.Left(key.GetLength()).CompareNoCase(key) == 0;
-    if (found) name = line.Mid(key.GetLength() + 1);
-    return !found;
-  });
+  lintavo::JedeZeile(text.lLaenge, text.Bytes, lintavo::kKomprimiertTrenner,
+                     [&](std::string_view bytes) {
+                       const CString line(bytes);
+                       found = line.Left(key.GetLength()).CompareNoCase(key) == 0;
+                       if (found) name = line.Mid(key.GetLength() + 1);
+                       return !found;
+                     });
   return found;
 }
 

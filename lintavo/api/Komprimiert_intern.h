@@ -9,6 +9,9 @@
 
 namespace lintavo {
 
+/// What ends a line of the inflated text.
+inline constexpr int kKomprimiertTrenner = '\r';
+
 /// An inflated macro file. Where the stream is damaged the area holds what
 /// could be inflated, then zeroes, and counts whole.
 struct KomprimierterText {

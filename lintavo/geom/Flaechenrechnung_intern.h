@@ -10,6 +10,9 @@
 
 namespace lintavo {
 
+/// Steps of the whole-number grid per tolerance.
+inline constexpr double kSchritteJeToleranz = 64.0;
+
 inline constexpr std::size_t kKeine = static_cast<std::size_t>(-1);
 
 /// A corner of a ring handed in.

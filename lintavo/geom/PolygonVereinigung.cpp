@@ -16,9 +16,6 @@
 namespace lintavo {
 namespace {
 
-/// Steps of the whole-number grid per tolerance.
-constexpr double kSchritteJeToleranz = 64.0;
-
 /// The shapes taken apart: all vertices in a row, and per shape its counter-clockwise
 /// ring and, beside it, the vertex at which each ring edge starts as handed in.
 struct Formen {

@@ -15,8 +15,6 @@ namespace {
 
 /// Widths below this are rounding, whatever the caller asks for.
 constexpr double kKleinsteBreite = kNullLaenge;
-/// Steps of the whole-number grid per tolerance.
-constexpr double kSchritteJeToleranz = 64.0;
 
 std::vector<XY> Punkte(const GEOM2_Polygon& polygon) {
   std::vector<XY> punkte;

@@ -15,11 +15,11 @@ namespace {
 
 // --- layers -------------------------------------------------------------------
 
-enum Lage { kVorDemRahmen, kRahmen, kHinterDemRahmen };
+enum Schicht { kVorDemRahmen, kRahmen, kHinterDemRahmen };
 
 // Where a sash lies for a viewer on side `seite`. A pane without a sash frame sits
 // in the rebate of the window's frame, which covers it from both sides.
-Lage LageDesFluegels(const CMFensterSatz& fluegel, int seite) {
+Schicht SchichtDesFluegels(const CMFensterSatz& fluegel, int seite) {
   if (!fluegel.bMitRahmen) return kHinterDemRahmen;
   return fluegel.lOeffSeite == seite ? kVorDemRahmen : kHinterDemRahmen;
 }
@@ -43,13 +43,13 @@ double Tiefe(const CMFensterSatz& fluegel, const CMFensterSatz& rahmen, int seit
 // they open.
 std::vector<const CMFensterSatz*> Ebenen(const CMFenster& fenster, int seite) {
   const CMFensterSatz& rahmen = *fenster.GetRahmenPtr();
-  using Schluessel = std::tuple<Lage, double, bool, bool, long>;
+  using Schluessel = std::tuple<Schicht, double, bool, bool, long>;
   std::vector<std::pair<Schluessel, const CMFensterSatz*>> ebenen;
   ebenen.push_back({{kRahmen, 0.0, false, false, 0}, &rahmen});
   for (long i = 0; i < fenster.GetAnzahlFluegel(); ++i) {
     const CMFensterSatz& fluegel = *fenster.GetFluegelPtr(i);
     const bool vonHinten = fluegel.lOeffSeite != seite;
-    ebenen.push_back({{LageDesFluegels(fluegel, seite), Tiefe(fluegel, rahmen, seite), vonHinten,
+    ebenen.push_back({{SchichtDesFluegels(fluegel, seite), Tiefe(fluegel, rahmen, seite), vonHinten,
                        fluegel.bZuerstAufgehend == vonHinten, vonHinten ? -i : i},
                       &fluegel});
   }

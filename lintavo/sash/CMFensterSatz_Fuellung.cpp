@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr double kHundertProzent = 100.0;
+constexpr double kMaxProzent = 100.0;
 constexpr double kRechterWinkel = 90.0;
 constexpr double kHalbkreis = 180.0;
 
@@ -55,7 +55,7 @@ std::vector<double> Teilungspunkte(const std::vector<CMBauteil>& sprossen, bool 
 
 // A distance as a fitting may have it: from 0 to an upper bound.
 double ImBereich(double abstand, eVermaszung mode, double laenge) {
-  const double hoechstens = mode == eVermaszungAbsolut ? laenge : kHundertProzent;
+  const double hoechstens = mode == eVermaszungAbsolut ? laenge : kMaxProzent;
   return abstand >= 0.0 ? std::min(abstand, hoechstens) : 0.0;
 }
 

@@ -19,8 +19,8 @@ namespace {
 // The range of a pattern that is drawn in drawing units as it stands.
 constexpr double kBereichEinfach = 100.0;
 // A pattern that does not give these gets them unscaled.
-constexpr double kSprossenBreite = 3.0;
-constexpr double kSprossenDicke = 2.0;
+constexpr double kBildBreite = 3.0;
+constexpr double kBildDicke = 2.0;
 constexpr long kSprossenZahlen = 4;
 
 void Normalisiere(GEOM2_Polygon& contour) {
@@ -43,8 +43,8 @@ struct Sprossenbild {
   double sx = 1.0;
   double sy = 1.0;
   XY ursprung;
-  double breite = kSprossenBreite;
-  double dicke = kSprossenDicke;
+  double breite = kBildBreite;
+  double dicke = kBildDicke;
 
   XY Punkt(double x, double y) const { return {x * sx + ursprung.x, y * sy + ursprung.y}; }
 };
