@@ -45,6 +45,7 @@ CFeApi::CFeApi(const CFeApi& other)
       })) {}
 
 CFeApi& CFeApi::operator=(const CFeApi& other) {
+  if (this == &other) return *this;
   if (pFenster_ && other.pFenster_) Geschuetzt([&] { *pFenster_ = *other.pFenster_; });
   return *this;
 }

@@ -51,8 +51,8 @@ class Kreuzungsorte {
 
   std::size_t Ort(const XY& p) {
     const Zelle mitte{std::floor(p.x / kNullLaenge), std::floor(p.y / kNullLaenge)};
-    for (double dx = -1.0; dx <= 1.0; ++dx) {
-      for (double dy = -1.0; dy <= 1.0; ++dy) {
+    for (const double dx : {-1.0, 0.0, 1.0}) {
+      for (const double dy : {-1.0, 0.0, 1.0}) {
         const auto treffer = zellen_.find({mitte.first + dx, mitte.second + dy});
         if (treffer == zellen_.end()) continue;
         if (Abstand(orte_[treffer->second], p) <= kNullLaenge) return treffer->second;
@@ -111,14 +111,14 @@ class Teilung {
     if (schnitte_.size() > vorher) return true;
     if (kanten_[i].form == kanten_[j].form) return false;
     XY p;
-    if (!GeradenSchneiden(Gerade_(i), Gerade_(j), p)) return false;
+    if (!GeradenSchneiden(GeradeVon(i), GeradeVon(j), p)) return false;
     const std::size_t ort = kreuzungsorte_.Ort(p);
     Auflegen(i, ort);
     Auflegen(j, ort);
     return true;
   }
 
-  Gerade Gerade_(std::size_t i) const {
+  Gerade GeradeVon(std::size_t i) const {
     const XY& a = orte_[kanten_[i].von];
     return {a, Differenz(orte_[kanten_[i].nach], a)};
   }
@@ -126,7 +126,7 @@ class Teilung {
   void Auflegen(std::size_t i, std::size_t ort) {
     const Umrisskante& k = kanten_[i];
     if (ort == k.von || ort == k.nach) return;
-    const Gerade gerade = Gerade_(i);
+    const Gerade gerade = GeradeVon(i);
     const XY weg = Differenz(orte_[ort], gerade.punkt);
     const double laenge = Betrag(gerade.richtung);
     const double t = Skalarprodukt(weg, gerade.richtung) / (laenge * laenge);
@@ -229,14 +229,13 @@ class Aussenlauf {
 
   /// Per group of connected edges its leftmost place, of several the lowest.
   Liste<std::size_t> Startorte() {
-    constexpr std::size_t keiner = kKeine;
-    Liste<std::size_t> links(orte_.size(), keiner, orte_.get_allocator());
+    Liste<std::size_t> links(orte_.size(), kKeine, orte_.get_allocator());
     Liste<std::size_t> gruppen(orte_.get_allocator());
     for (const Umrisskante& k : kanten_) {
       std::size_t& bester = links[Gruppe(k.von)];
-      if (bester == keiner) gruppen.push_back(Gruppe(k.von));
+      if (bester == kKeine) gruppen.push_back(Gruppe(k.von));
       const XY& p = orte_[k.von];
-      if (bester == keiner || p.x < orte_[bester].x ||
+      if (bester == kKeine || p.x < orte_[bester].x ||
           (!(p.x > orte_[bester].x) && p.y < orte_[bester].y)) {
         bester = k.von;
       }
@@ -268,7 +267,7 @@ class Aussenlauf {
     const std::size_t erste = Weiter(start, {-1.0, 0.0});
     std::size_t kante = erste;
     do {
-      if (kante == kKeine || weg.size() > kanten_.size()) return false;
+      if (kante >= kanten_.size() || weg.size() > kanten_.size()) return false;
       weg.push_back(kante);
       kante = Weiter(kanten_[kante].nach, Mal(Richtung(kante), -1.0));
     } while (kante != erste);

@@ -87,17 +87,19 @@ bool CMStrecke::IsCross(const CMStrecke& s, XY& schnitt) const {
 }
 
 bool CMStrecke::IsUeberlagerung(const CMStrecke& s) const {
-  constexpr double tol = lintavo::kUeberlagerung;
+  using lintavo::kUeberlagerung;
   const auto nahe = [](const XY& a, const XY& b, const XY& p) {
-    return std::fabs(AbstandPunktGerade(a, b, p)) <= tol;
+    return std::fabs(AbstandPunktGerade(a, b, p)) <= kUeberlagerung;
   };
   if (!nahe(p1_, p2_, s.p1_) || !nahe(p1_, p2_, s.p2_) || !nahe(s.p1_, s.p2_, p1_) ||
       !nahe(s.p1_, s.p2_, p2_)) {
     return false;
   }
   // Touching at one end is meant to count.
-  return IsPunktAufStrecke(s.p1_, p1_, p2_, tol) || IsPunktAufStrecke(s.p2_, p1_, p2_, tol) ||
-         IsPunktAufStrecke(p1_, s.p1_, s.p2_, tol) || IsPunktAufStrecke(p2_, s.p1_, s.p2_, tol);
+  return IsPunktAufStrecke(s.p1_, p1_, p2_, kUeberlagerung) ||
+         IsPunktAufStrecke(s.p2_, p1_, p2_, kUeberlagerung) ||
+         IsPunktAufStrecke(p1_, s.p1_, s.p2_, kUeberlagerung) ||
+         IsPunktAufStrecke(p2_, s.p1_, s.p2_, kUeberlagerung);
 }
 
 bool CMStrecke::IsInside(const GEOM2_Polygon& poly) const {

@@ -108,11 +108,11 @@ class Herkunft {
     const XY bis = AlsXY(ecken_[ecken_[k].danach].ganz);
     const XY weg = Differenz(bis, von);
     const double laenge = Betrag(weg);
-    constexpr double unmoeglich = std::numeric_limits<double>::infinity();
-    if (!(laenge > 0.0)) return unmoeglich;
+    constexpr double kUnmoeglich = std::numeric_limits<double>::infinity();
+    if (!(laenge > 0.0)) return kUnmoeglich;
     const XY mitte = Zwischenpunkt(a, b, 0.5);
     const double entlang = Skalarprodukt(weg, Differenz(mitte, von)) / laenge;
-    if (entlang < -kRundung || entlang > laenge + kRundung) return unmoeglich;
+    if (entlang < -kRundung || entlang > laenge + kRundung) return kUnmoeglich;
     return std::max(std::fabs(Kreuzprodukt(weg, Differenz(a, von))),
                     std::fabs(Kreuzprodukt(weg, Differenz(b, von)))) /
            laenge;
@@ -148,7 +148,7 @@ class Herkunft {
     return k != bis ? *k : *von;
   }
 
-  Gerade Gerade_(std::size_t kante) const {
+  Gerade GeradeVon(std::size_t kante) const {
     const XY& a = ecken_[kante].quelle.ort;
     return {a, Differenz(ecken_[ecken_[kante].danach].quelle.ort, a)};
   }
@@ -157,8 +157,8 @@ class Herkunft {
   /// edges that meet at a small angle, such as neighbours in an arch.
   XY Kreuzung(const IntPoint& p, std::size_t ein, std::size_t aus) const {
     const XY gerundet = raster_.Doppelt(p);
-    const Gerade a = Gerade_(ein);
-    const Gerade b = Gerade_(aus);
+    const Gerade a = GeradeVon(ein);
+    const Gerade b = GeradeVon(aus);
     XY genau;
     if (!GeradenSchneiden(a, b, genau)) return gerundet;
     const double sinus = std::fabs(Kreuzprodukt(Einheit(a.richtung), Einheit(b.richtung)));

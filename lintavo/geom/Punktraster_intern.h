@@ -19,7 +19,6 @@ class Punktraster {
   Punktraster(std::span<const XY> punkte, Speicher speicher)
       : punkte_(punkte), beginn_(speicher), inhalt_(speicher) {
     XY max{-kLeereBox, -kLeereBox};
-    min_ = {kLeereBox, kLeereBox};
     for (const XY& p : punkte) {
       min_ = {std::min(min_.x, p.x), std::min(min_.y, p.y)};
       max = {std::max(max.x, p.x), std::max(max.y, p.y)};
@@ -71,7 +70,7 @@ class Punktraster {
   }
 
   std::span<const XY> punkte_;
-  XY min_;
+  XY min_{kLeereBox, kLeereBox};
   std::size_t spalten_ = 1;
   std::size_t zeilen_ = 1;
   double jeX_ = 0.0;

@@ -18,6 +18,7 @@ constexpr double kKleinsteBreite = kNullLaenge;
 
 std::vector<XY> Punkte(const GEOM2_Polygon& polygon) {
   std::vector<XY> punkte;
+  punkte.reserve(static_cast<std::size_t>(polygon.GetAnzahl()));
   for (int i = 0; i < polygon.GetAnzahl(); ++i) punkte.push_back(Ort(polygon.GetEckpunkt(i)));
   return punkte;
 }

@@ -80,7 +80,7 @@ class PieceReader {
   std::size_t total_ = 0;
   bool atEnd_ = false;
   bool failed_ = false;
-  char block_[kBlockLength];
+  char block_[kBlockLength] = {};
 };
 
 }  // namespace

@@ -5,14 +5,18 @@
 
 job_count() { nproc 2>/dev/null || echo 2; }
 
+configure_preset() {
+  local stamp=build/$1/configured.stamp
+  if [ ! -e "$stamp" ] || [ CMakePresets.json -nt "$stamp" ]; then
+    cmake --preset "$1"
+    touch "$stamp"
+  fi
+}
+
 build_preset() {
   local preset=$1
   shift
-  local stamp=build/$preset/configured.stamp
-  if [ ! -e "$stamp" ] || [ CMakePresets.json -nt "$stamp" ]; then
-    cmake --preset "$preset"
-    touch "$stamp"
-  fi
+  configure_preset "$preset"
   cmake --build --preset "$preset" -j "$(job_count)" ${1:+--target "$@"}
 }
 

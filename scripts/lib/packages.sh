@@ -9,14 +9,15 @@
 # from; libraries only as packages.
 BUILD_PACKAGES=(g++ cmake ninja-build pkgconf zlib1g-dev libpolyclipping-dev libcairo2-dev
   libcli11-dev nlohmann-json3-dev libgtest-dev libexpat1-dev locales python3)
-CHECK_PACKAGES=(clang-format valgrind python3-jsonschema python3-ezdxf librsvg2-bin)
+CHECK_PACKAGES=(clang-format clang-tidy cppcheck valgrind python3-jsonschema python3-ezdxf
+  librsvg2-bin)
 BENCH_PACKAGES=(libbenchmark-dev libsimpleini-dev valgrind)
 WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev googletest)
 WINE_PACKAGES=(wine64)
 
 command_of() {
   case $1 in
-    g++ | cmake | clang-format | python3 | valgrind) echo "$1" ;;
+    g++ | clang-format | clang-tidy | cmake | cppcheck | python3 | valgrind) echo "$1" ;;
     ninja-build) echo ninja ;;
     pkgconf) echo pkg-config ;;
   esac

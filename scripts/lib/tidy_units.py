@@ -19,13 +19,14 @@ from pathlib import Path
 
 
 def compiles(command):
-    words = ["clang++", *shlex.split(command)[1:], "-fsyntax-only", "-w"]
+    words = [*shlex.split(command), "-fsyntax-only", "-w"]
     return subprocess.run(words, stderr=subprocess.DEVNULL, check=False).returncode == 0
 
 
 def unit_of(entries, path):
     """The entry of a new source that includes those of `entries`."""
-    path.write_text("".join(f'#include "{entry["file"]}"\n' for entry in entries))
+    lines = [f'#include "{entry["file"]}"  // NOLINT: made to be suspicious\n' for entry in entries]
+    path.write_text("".join(lines))
     command = entries[0]["command"].replace(entries[0]["file"], str(path))
     return {"directory": entries[0]["directory"], "command": command, "file": str(path)}
 
