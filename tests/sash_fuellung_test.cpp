@@ -1,6 +1,8 @@
 // Fillings and their slats, fittings, and the glass dimensions between bars.
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -39,29 +41,36 @@ std::vector<std::pair<double, double>> BreiteUndLage(const std::vector<CMBauteil
 using Paare = std::vector<std::pair<double, double>>;
 
 TEST(Lamellen, FillTheHeightFromBelow) {
-  EXPECT_EQ(BreiteUndLage(Lamellen(Rechteck(0, 0, 80, 100), 30.0, 0.0)),
-            (Paare{{30, 15}, {30, 45}, {30, 75}, {10, 95}}));
-  // 0.05 of remaining height get no slat.
-  EXPECT_EQ(BreiteUndLage(Lamellen(Rechteck(0, 0, 80, 90.05), 30.0, 0.0)),
-            (Paare{{30, 15}, {30, 45}, {30, 75}}));
-  EXPECT_EQ(BreiteUndLage(Lamellen(Rechteck(0, 0, 80, 90.25), 30.0, 0.0)).back(),
-            (std::pair{0.25, 90.125}));
-}
-
-TEST(Lamellen, HeightAndNumberAreBothTruncated) {
-  // 60 / 30.25 is less than two, although two slats fill the height exactly.
-  EXPECT_EQ(BreiteUndLage(Lamellen(Rechteck(0, 0, 80, 60.5), 30.25, 0.0)),
-            (Paare{{30.25, 15.125}, {30.25, 45.375}}));
-  // A height below one is none; the rest is all of it.
-  EXPECT_EQ(BreiteUndLage(Lamellen(Rechteck(0, 0, 80, 0.75), 0.25, 0.0)), (Paare{{0.75, 0.375}}));
-}
-
-TEST(Lamellen, EveryOneLiesBehindItsGap) {
-  // Pitch 25: three of them and a rest of 15, whose slat reaches past the top.
-  EXPECT_EQ(BreiteUndLage(Lamellen(Rechteck(0, 0, 80, 90), 20.0, 5.0)),
-            (Paare{{20, 15}, {20, 40}, {20, 65}, {15, 87.5}}));
-  // The middle of the rest would lie above the contour.
-  EXPECT_EQ(Lamellen(Rechteck(0, 0, 80, 80), 10.0, 15.0).size(), 3U);
+  const struct {
+    const char* was;
+    double hoehe, breite, luecke;
+    Paare erwartet;
+  } kFaelle[] = {
+      {"the last one takes the rest", 100, 30, 0, {{30, 15}, {30, 45}, {30, 75}, {10, 95}}},
+      {"0.05 of rest get none", 90.05, 30, 0, {{30, 15}, {30, 45}, {30, 75}}},
+      {"0.25 get one", 90.25, 30, 0, {{30, 15}, {30, 45}, {30, 75}, {0.25, 90.125}}},
+      {"60 / 30.25 is less than two, yet two fill the height exactly",
+       60.5,
+       30.25,
+       0,
+       {{30.25, 15.125}, {30.25, 45.375}}},
+      {"a height below one is none; the rest is all of it", 0.75, 0.25, 0, {{0.75, 0.375}}},
+      {"each lies behind its gap; the slat of the rest reaches past the top",
+       90,
+       20,
+       5,
+       {{20, 15}, {20, 40}, {20, 65}, {15, 87.5}}},
+      {"the middle of the rest would lie above the contour",
+       80,
+       10,
+       15,
+       {{10, 20}, {10, 45}, {10, 70}}},
+      {"wider than the contour: one as high as it", 100, 1e300, 0, {{100, 50}}},
+  };
+  for (const auto& fall : kFaelle) {
+    const GEOM2_Polygon umriss = Rechteck(0, 0, 80, fall.hoehe);
+    EXPECT_EQ(BreiteUndLage(Lamellen(umriss, fall.breite, fall.luecke)), fall.erwartet) << fall.was;
+  }
 }
 
 TEST(Lamellen, AreCutToTheContour) {
@@ -112,8 +121,6 @@ TEST(Lamellen, AreBoundedWhateverTheFillingSays) {
   }
   EXPECT_EQ(Lamellen(umriss, 1e-5, 0.0).size(), kMaxLamellen);
   EXPECT_EQ(Lamellen(Rechteck(0, 0, 80, 999.5), 1.0, 0.0).size(), kMaxLamellen);
-  // Wider than the contour: one slat as high as it.
-  EXPECT_EQ(BreiteUndLage(Lamellen(umriss, 1e300, 0.0)), (Paare{{100, 50}}));
 }
 
 TEST(Fuellung, ContourHasNoShortEdges) {
@@ -333,35 +340,25 @@ TEST(Beschlag, SitsOnItsFramePart) {
   EXPECT_DOUBLE_EQ(beschlag.dAbstand2, 100.0);
 }
 
-// The farthest that a drawing reaches from the point, forward and backward.
-std::pair<double, double> Reichweite(eBeschlagTypen typ, const XY& p, double winkel) {
-  CMBeschlag beschlag;
-  beschlag.eTyp = typ;
-  std::vector<CMStrecke> lines;
-  beschlag.GetZeichnung(lines, p, winkel);
-  double vor = 0.0;
-  double zurueck = 0.0;
-  for (const CMStrecke& linie : lines) {
-    XY a, b;
-    linie.GetPunkte(a, b);
-    for (const XY& q : {a, b}) {
-      const double rad = winkel * std::acos(-1.0) / 180.0;
-      const double u = (q.x - p.x) * std::cos(rad) + (q.y - p.y) * std::sin(rad);
-      vor = std::max(vor, u);
-      zurueck = std::max(zurueck, -u);
-    }
-  }
-  return {vor, zurueck};
-}
-
 TEST(Beschlag, DrawingLiesAlongTheGivenDirection) {
-  for (const double winkel : {0.0, 90.0, -123.4}) {
-    const auto griff = Reichweite(eBeschlagGriff, {10, -20}, winkel);
-    EXPECT_NEAR(griff.first, 12.0, 1e-9);
-    EXPECT_NEAR(griff.second, 2.0, 1e-9);
-    const auto band = Reichweite(eBeschlagBand, {10, -20}, winkel);
-    EXPECT_NEAR(band.first, 4.0, 1e-9);
-    EXPECT_NEAR(band.second, 4.0, 1e-9);
+  // Turned by a quarter, forward is up. A handle reaches 12 forward and 2 back, a hinge
+  // 4 to both sides.
+  for (const auto& [typ, vor, zurueck] :
+       {std::tuple{eBeschlagGriff, 12.0, 2.0}, std::tuple{eBeschlagBand, 4.0, 4.0}}) {
+    CMBeschlag beschlag;
+    beschlag.eTyp = typ;
+    std::vector<CMStrecke> lines;
+    beschlag.GetZeichnung(lines, {10, -20}, 90.0);
+    double unten = kInf;
+    double oben = -kInf;
+    for (const CMStrecke& linie : lines) {
+      XY a, b;
+      linie.GetPunkte(a, b);
+      unten = std::min({unten, a.y, b.y});
+      oben = std::max({oben, a.y, b.y});
+    }
+    EXPECT_NEAR(oben, -20.0 + vor, 1e-9);
+    EXPECT_NEAR(unten, -20.0 - zurueck, 1e-9);
   }
   CMBeschlag anderer;
   anderer.eTyp = static_cast<eBeschlagTypen>(9);

@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <regex>
 #include <sstream>
 
 #include <gtest/gtest.h>
@@ -101,11 +103,17 @@ void ErwarteSprosse(const CMBauteil& sprosse, const XY& von, const XY& bis, doub
   EXPECT_DOUBLE_EQ(sprosse.dBreite, breite);
 }
 
-void ErwarteAttribute(const CMBauteil& teil, long a1, long a2, long a3, long a4) {
-  EXPECT_EQ(teil.lAttribut[0], a1);
-  EXPECT_EQ(teil.lAttribut[1], a2);
-  EXPECT_EQ(teil.lAttribut[2], a3);
-  EXPECT_EQ(teil.lAttribut[3], a4);
+// a1 to a4, and before them what the lists of a form say of a part.
+using Liste = std::vector<double>;
+
+Liste Attribute(const CMBauteil& teil) {
+  return Liste(std::begin(teil.lAttribut), std::end(teil.lAttribut));
+}
+
+Liste Angaben(const CMBauteil& teil) {
+  Liste angaben = Attribute(teil);
+  angaben.insert(angaben.begin(), {teil.dBreite, teil.dBreite2, teil.dDicke});
+  return angaben;
 }
 
 // --- the example positions -------------------------------------------------------
@@ -132,7 +140,7 @@ TEST(Beispielpositionen, KitchenHasItsSizeTextsAndCross) {
   ErwarteSprosse(fluegel.Sprossen[0], {13.3, 63}, {97.7, 63}, 2.5);
   ErwarteSprosse(fluegel.Sprossen[1], {55.5, 13.3}, {55.5, 112.7}, 2.5);
   for (const CMBauteil& sprosse : fluegel.Sprossen) {
-    ErwarteAttribute(sprosse, 4, 4, 1, 1);
+    EXPECT_EQ(Attribute(sprosse), (Liste{4, 4, 1, 1}));
     EXPECT_EQ(sprosse.lSprossenBild, 1);
   }
 }
@@ -194,44 +202,38 @@ TEST_F(Position, EveryLengthIsATenthAndNothingElse) {
   EXPECT_EQ(position.GetText(49), "letzter");
   EXPECT_EQ(position.GetText(50), "");
 
+  const auto zehntel = [](double wert) { return wert * 0.1; };
   const CMFensterSatz& rahmen = *fenster.GetRahmenPtr();
-  EXPECT_DOUBLE_EQ(rahmen.RahmenVorlage.dDicke, 6.9);
+  const double dicke = zehntel(69);
+  EXPECT_EQ(rahmen.RahmenVorlage.dDicke, dicke);
   ASSERT_EQ(rahmen.RahmenTeile.size(), 4U);
-  const double breiten[] = {8.1, 8.2, 7.0, 8.4};  // R3 is missing
-  for (std::size_t i = 0; i < 4; ++i) {
-    EXPECT_DOUBLE_EQ(rahmen.RahmenTeile[i].dBreite, breiten[i]);
-    EXPECT_DOUBLE_EQ(rahmen.RahmenTeile[i].dBreite2, 0.0);
-    EXPECT_DOUBLE_EQ(rahmen.RahmenTeile[i].dDicke, 6.9);
-  }
-  ErwarteAttribute(rahmen.RahmenTeile[0], 12, 14, 11, 13);
-  ErwarteAttribute(rahmen.RahmenTeile[1], 16, 18, 15, 17);
-  ErwarteAttribute(rahmen.RahmenTeile[2], 2, 2, 1, 1);
+  EXPECT_EQ(Angaben(rahmen.RahmenTeile[0]), (Liste{zehntel(81), 0, dicke, 12, 14, 11, 13}));
+  EXPECT_EQ(Angaben(rahmen.RahmenTeile[1]), (Liste{zehntel(82), 0, dicke, 16, 18, 15, 17}));
+  EXPECT_EQ(Angaben(rahmen.RahmenTeile[2]), (Liste{7, 0, dicke, 2, 2, 1, 1})) << "not in the file";
+  EXPECT_EQ(rahmen.RahmenTeile[3].dBreite, zehntel(84));
   EXPECT_EQ(rahmen.lOeffSeite, 1);
 
   ASSERT_EQ(rahmen.EinzelTeile.size(), 2U);  // Z3 is missing
   const CMBauteil& unten = rahmen.EinzelTeile[0];
   EXPECT_TRUE(unten.IsZusatzteilAussen());
-  EXPECT_EQ(unten.lSeite, 0);
-  EXPECT_DOUBLE_EQ(unten.dBreite, 3.1);
-  EXPECT_DOUBLE_EQ(unten.dBreite2, 3.2);
-  EXPECT_DOUBLE_EQ(unten.dDicke, 6.9);
-  ErwarteAttribute(unten, 34, 36, 33, 35);
-  EXPECT_EQ(unten.cAbschnittsTypAnfang, 1);
-  EXPECT_EQ(unten.cAbschnittsTypEnde, 2);
-  EXPECT_EQ(rahmen.EinzelTeile[1].lSeite, 2);
-  EXPECT_DOUBLE_EQ(rahmen.EinzelTeile[1].dBreite, 4.1);
-  EXPECT_EQ(rahmen.EinzelTeile[1].cAbschnittsTypEnde, 4);
+  EXPECT_EQ(Angaben(unten), (Liste{zehntel(31), zehntel(32), dicke, 34, 36, 33, 35}));
+  EXPECT_EQ(rahmen.EinzelTeile[1].dBreite, zehntel(41));
+  EXPECT_EQ((Liste{0, 1, 2, 2, 3, 4}),
+            (Liste{double(unten.lSeite), double(unten.cAbschnittsTypAnfang),
+                   double(unten.cAbschnittsTypEnde), double(rahmen.EinzelTeile[1].lSeite),
+                   double(rahmen.EinzelTeile[1].cAbschnittsTypAnfang),
+                   double(rahmen.EinzelTeile[1].cAbschnittsTypEnde)}));
 
   const CMFensterSatz& fluegel = *fenster.GetFluegelPtr(0L);
-  EXPECT_DOUBLE_EQ(fluegel.RahmenVorlage.dDicke, 7.1);
   ASSERT_EQ(fluegel.RahmenTeile.size(), 4U);
-  EXPECT_DOUBLE_EQ(fluegel.RahmenTeile[0].dBreite, 9.1);
-  EXPECT_DOUBLE_EQ(fluegel.RahmenTeile[0].dBreite2, 1.1);
-  ErwarteAttribute(fluegel.RahmenTeile[0], 62, 64, 61, 63);
-  EXPECT_DOUBLE_EQ(fluegel.RahmenTeile[1].dBreite, 7.8);
-  EXPECT_DOUBLE_EQ(fluegel.RahmenTeile[1].dBreite2, 1.5);
-  EXPECT_DOUBLE_EQ(fluegel.RahmenTeile[3].dBreite2, 1.4);
-  ErwarteAttribute(fluegel.RahmenTeile[3], 70, -72, 69, 71);
+  const double duenner = zehntel(71);
+  EXPECT_EQ(fluegel.RahmenVorlage.dDicke, duenner);
+  EXPECT_EQ(Angaben(fluegel.RahmenTeile[0]),
+            (Liste{zehntel(91), zehntel(11), duenner, 62, 64, 61, 63}));
+  EXPECT_EQ(fluegel.RahmenTeile[1].dBreite, 7.8);
+  EXPECT_EQ(fluegel.RahmenTeile[1].dBreite2, 1.5);
+  EXPECT_EQ(Angaben(fluegel.RahmenTeile[3]),
+            (Liste{zehntel(94), zehntel(14), duenner, 70, -72, 69, 71}));
   EXPECT_EQ(fluegel.lOeffSeite, 1);
   EXPECT_EQ(fluegel.lGangart, CMFensterSatz::GetGangArtIndex("Ki"));
   EXPECT_EQ(fluegel.lAnschlag, CMFensterSatz::GetAnschlagIndex("Un"));
@@ -285,11 +287,11 @@ TEST_F(Position, PatternListsOfFiveAndSix) {
   ASSERT_EQ(sprossen.size(), 2U + 4U);
   EXPECT_EQ(sprossen[0].lSprossenBild, 2);
   EXPECT_DOUBLE_EQ(sprossen[0].dBreite, 2.5);
-  ErwarteAttribute(sprossen[0], 6, 8, 5, 7);
+  EXPECT_EQ(Attribute(sprossen[0]), (Liste{6, 8, 5, 7}));
   EXPECT_EQ(sprossen[2].lSprossenBild, 3);
   EXPECT_DOUBLE_EQ(sprossen[2].dBreite, 3.1);
   EXPECT_DOUBLE_EQ(sprossen[2].dDicke, 2.0);
-  ErwarteAttribute(sprossen[2], 10, 12, 9, 11);
+  EXPECT_EQ(Attribute(sprossen[2]), (Liste{10, 12, 9, 11}));
 }
 
 TEST_F(Position, BarsOfTheTemplateStay) {
@@ -413,23 +415,26 @@ TEST_F(Position, BeforeTheFirstReadThereIsNone) {
   EXPECT_EQ(position.GetFensterPtr()->GetAnzahlFluegel(), 0);
 }
 
-TEST_F(Position, AMissingParameterFileIsNamed) {
-  CMFensterPosition position;
-  EXPECT_FALSE(position.ReadFromFile("gibt/es/nicht.txt", kBeispiele));
-  EXPECT_EQ(position.GetError(), 28);
-  EXPECT_EQ(Fehlertext(position), "Die Datei 'gibt/es/nicht.txt' ist nicht vorhanden !");
-  EXPECT_FALSE(position.ReadFromFile("", ""));
-  EXPECT_FALSE(position.ReadFromFile(kBeispiele, kBeispiele));  // a folder
-  EXPECT_EQ(position.GetError(), 28);
-}
-
-TEST_F(Position, AFailedReadLeavesNothingOfTheOneBefore) {
+TEST_F(Position, FilesThatCannotBeReadOrWrittenAreNamed) {
   CMFensterPosition position;
   ASSERT_TRUE(LiesBeispielposition(position, "kueche.txt"));
-  EXPECT_FALSE(position.ReadFromFile("gibt/es/nicht.txt", kBeispiele));
+  const std::string path = ordner_ / "gibtsnicht/position.aqz";
+  EXPECT_FALSE(position.SaveToFile(path.c_str()));
+  EXPECT_EQ(position.GetError(), 41);
+  EXPECT_EQ(Fehlertext(position), "Die Datei '" + path + "' kann nicht gespeichert werden !");
+  EXPECT_FALSE(position.SaveToFile(""));
+
+  // A read that fails leaves nothing of the one before.
+  EXPECT_FALSE(position.ReadFromFile(path.c_str(), kBeispiele));
+  EXPECT_EQ(position.GetError(), 28);
+  EXPECT_EQ(Fehlertext(position), "Die Datei '" + path + "' ist nicht vorhanden !");
   EXPECT_EQ(position.GetText(1), "");
   EXPECT_EQ(position.GetFensterPtr()->GetAnzahlFluegel(), 0);
   EXPECT_EQ(position.GetFensterPtr()->GetTypName(), "");
+  EXPECT_FALSE(position.ReadFromFile("", ""));
+  EXPECT_FALSE(position.ReadFromFile(kBeispiele, kBeispiele)) << "a folder";
+  EXPECT_FALSE(position.ReadFromFile(path.c_str()));
+  EXPECT_EQ(position.GetError(), 28);
   ASSERT_TRUE(LiesBeispielposition(position, "kueche.txt"));
   EXPECT_EQ(position.GetError(), 0);
 }
@@ -447,14 +452,7 @@ TEST_F(Position, NoValueDoesHarm) {
   for (const char* wert : {"nan", "inf", "-inf", "1e308", "-1e308", "1e12", "-1", "0", "1e-320",
                            "9223372036854775807", "-9223372036854775808", ",", "x"}) {
     for (const char* muster : kZeilen) {
-      std::string zeilen;
-      for (const char* c = muster; *c != '\0'; ++c) {
-        if (*c == '#') {
-          zeilen += wert;
-        } else {
-          zeilen += *c;
-        }
-      }
+      const std::string zeilen = std::regex_replace(muster, std::regex("#"), wert);
       CMFensterPosition position;
       const bool gelesen = LiesBeispiel(position, "[Allgemeines]\nTyp=Zweifluegelig\n" + zeilen);
       EXPECT_EQ(gelesen, position.GetError() == 0) << zeilen;
@@ -572,18 +570,6 @@ TEST_F(Position, TextsAreOneLineInTheFile) {
   ASSERT_TRUE(wieder.ReadFromFile(path.c_str()));
   EXPECT_EQ(wieder.GetText(1), "zwei  [Fluegel1] Typ=9");
   EXPECT_EQ(wieder.GetFensterPtr()->GetAnzahlFluegel(), 1);
-}
-
-TEST_F(Position, AFileThatCannotBeWrittenIsAnError) {
-  CMFensterPosition position;
-  ASSERT_TRUE(LiesBeispielposition(position, "kueche.txt"));
-  const std::string path = ordner_ / "gibtsnicht/position.aqz";
-  EXPECT_FALSE(position.SaveToFile(path.c_str()));
-  EXPECT_EQ(position.GetError(), 41);
-  EXPECT_EQ(Fehlertext(position), "Die Datei '" + path + "' kann nicht gespeichert werden !");
-  EXPECT_FALSE(position.SaveToFile(""));
-  EXPECT_FALSE(position.ReadFromFile(path.c_str()));
-  EXPECT_EQ(position.GetError(), 28);
 }
 
 TEST_F(Position, ACopyIsItsOwn) {

@@ -21,8 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-
 // Whoever guesses this many names in a row is not working by chance.
 constexpr int kMaxNames = 16;
 
@@ -161,12 +159,16 @@ bool SaveInPlace(const fs::path& target, std::string_view bytes) {
 }
 
 bool SaveReplacing(const fs::path& given, std::string_view bytes) {
+  // Whoever may write in the folder could replace a read-only file, too.
+  const DWORD attributes = ::GetFileAttributesW(given.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY)) return false;
   fs::path target;
   {
-    // Whoever may write in the folder could replace a read-only file, too.
-    const Handle old(given, kShareAll, OPEN_EXISTING);
-    if (!old.IsOpen()) return false;
-    if (old.IsOnDisk()) target = old.GetFinalPath();
+    // Only as the one who has it open: otherwise the old file stays behind under
+    // another name.
+    const Handle old(given, 0, OPEN_EXISTING);
+    if (!old.IsOpen() && ::GetLastError() != ERROR_SHARING_VIOLATION) return false;
+    if (old.IsOpen() && old.IsOnDisk()) target = old.GetFinalPath();
   }
   const Outcome outcome = target.empty() ? Outcome::kImpossible : SaveBeside(target, false, bytes);
   return outcome == Outcome::kSaved ||

@@ -1,8 +1,8 @@
-"""Puts the sources of each folder into one unit for clang-tidy.
+"""Puts the sources of each folder into as few units for clang-tidy as possible.
 
 What a folder's sources include, the standard library above all, is then analysed once
-and not once for each. Names in unnamed namespaces have to be unique in a folder for
-that; the sources of a folder where they are not stay apart.
+and not once for each. Sources whose names in unnamed namespaces clash are in different
+units.
 
 usage: tidy_units.py COMPILE_COMMANDS OUTPUT FOLDER...
 
@@ -11,9 +11,11 @@ OUTPUT and prints their paths.
 """
 
 import json
+import os
 import shlex
 import subprocess
 import sys
+from concurrent.futures import ThreadPoolExecutor
 from itertools import groupby
 from pathlib import Path
 
@@ -31,13 +33,12 @@ def unit_of(entries, path):
     return {"directory": entries[0]["directory"], "command": command, "file": str(path)}
 
 
-def units_of(folder, entries, output):
-    name = "_".join(folder.parts)
+def units_of(name, entries, output):
     unit = unit_of(entries, output / f"{name}.cpp")
-    if compiles(unit["command"]):
+    if len(entries) == 1 or compiles(unit["command"]):
         return [unit]
-    print(f"{folder}: names clash, so its sources are analysed one by one", file=sys.stderr)
-    return [unit_of([entry], output / f"{name}_{Path(entry['file']).name}") for entry in entries]
+    # Sources that are neighbours by name have the most in common.
+    return units_of(f"{name}_a", entries[::2], output) + units_of(f"{name}_b", entries[1::2], output)
 
 
 def main():
@@ -53,9 +54,10 @@ def main():
         for entry in json.loads(commands.read_text())
         if Path(entry["file"]).is_relative_to(root) and folder(entry).parts[0] in sys.argv[3:]
     }
-    units = []
-    for name, group in groupby(sorted(entries.values(), key=lambda e: e["file"]), folder):
-        units += units_of(name, list(group), output)
+    by_folder = groupby(sorted(entries.values(), key=lambda e: e["file"]), folder)
+    groups = [("_".join(name.parts), list(group)) for name, group in by_folder]
+    with ThreadPoolExecutor(os.cpu_count()) as pool:
+        units = sum(pool.map(lambda group: units_of(*group, output), groups), [])
     (output / "compile_commands.json").write_text(json.dumps(units))
     print("\n".join(unit["file"] for unit in units))
 
