@@ -49,7 +49,8 @@ std::vector<Trace> HatchingOf(const std::vector<Point>& outline, double distance
   const double first = std::ceil(least / step);
   const double last = std::floor(most / step);
   if (!(step > 0.0) || !(last - first < kMostLines)) return pieces;
-  for (double k = first; k <= last; ++k) AddPieces(outline, k * step, pieces);
+  const int lines = static_cast<int>(last - first) + 1;
+  for (int k = 0; k < lines; ++k) AddPieces(outline, (first + k) * step, pieces);
   return pieces;
 }
 

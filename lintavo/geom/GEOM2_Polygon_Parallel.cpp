@@ -250,12 +250,15 @@ Eckenring Entschleifen(const Eckenring& roh, const GEOM2_Polygon& polygon,
   const Liste<XY> orte = Orte(ring);
   const bool heil = !gedreht && umlauf * lintavo::Ringflaeche(orte) > 0.0 &&
                     (konvex || lintavo::IstEinfach(orte));
+  // The ring is a part of what was handed back, so it has to be moved.
+  // cppcheck-suppress returnStdMoveLocal
   if (heil && (konvex || vollzaehlig)) return std::move(ring);
 
   std::optional<std::vector<Eckenring>> stuecke;
   if (IstGleichmaessig(abstaende, polygon.GetAnzahl())) {
     stuecke = MitStreifen(polygon, abstaende[0], umlauf);
   } else if (heil && !IstUeberstrichen(ring, polygon, abstaende, umlauf)) {
+    // cppcheck-suppress returnStdMoveLocal
     return std::move(ring);
   }
   if (!stuecke.has_value()) stuecke = OhneSchleifen(ring, polygon, abstaende, umlauf);

@@ -37,7 +37,7 @@ std::string EndingOf(const std::string& path) {
 
 // The form that is asked for, else the one that the target's name tells.
 std::string FormNameOf(const ConvertOptions& options) {
-  const std::string form = options.form.empty() ? EndingOf(options.target) : options.form;
+  std::string form = options.form.empty() ? EndingOf(options.target) : options.form;
   if (Forms().contains(form)) return form;
   throw UsageError("'" + DisplayName(options.target) +
                    "' does not tell the form to write; name it, as in '--to cqz'");
