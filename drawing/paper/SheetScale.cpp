@@ -26,10 +26,9 @@ double ScaleFor(const Extent& window, const Extent& place, LengthUnit unit) {
   for (const double scale : kUsual) {
     if (Fits(window, place, MillimetresPerUnit(scale, unit))) return scale;
   }
-  for (double scale = kSmallestCommon; scale <= kLast; scale *= 10.0) {
-    if (Fits(window, place, MillimetresPerUnit(scale, unit))) return scale;
-  }
-  return 0.0;
+  double scale = kSmallestCommon;
+  while (scale <= kLast && !Fits(window, place, MillimetresPerUnit(scale, unit))) scale *= 10.0;
+  return scale <= kLast ? scale : 0.0;
 }
 
 double CommonScale(const std::vector<Extent>& windows, const Extent& place, LengthUnit unit) {
