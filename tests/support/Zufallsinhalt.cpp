@@ -62,6 +62,8 @@ std::vector<Sprossenentwurf> Zufallsinhalt::Sprossen(double x, double y, double 
       default:
         s.x += Zahl(0.1 * b, 0.6 * b);
         s.winkel = wuerfel_.Zahl(20, 160);
+        // At 85 degrees an upright edge leans just as far as a cut may: on neither side.
+        if (s.winkel == 85.0 || s.winkel == 95.0) s.winkel -= 1.0;
         s.laenge = std::round(1.2 * h);
         break;
     }
