@@ -14,8 +14,9 @@ class Ordner {
   Ordner(const Ordner&) = delete;
   Ordner& operator=(const Ordner&) = delete;
 
-  /// Path of a file in it.
-  std::string operator/(const std::string& name) const { return (path_ / name).string(); }
+  /// Path of a file in it, whose name is taken as it is: not every system's `path` takes
+  /// names for UTF-8.
+  std::string operator/(const std::string& name) const { return (path_ / "").string() + name; }
 
  private:
   std::filesystem::path path_;
