@@ -124,6 +124,17 @@ TEST(Vereinigung, UnitesNeighboursThatMissEachOtherByTheTolerance) {
                            Vereinigt({Rechteck(0, 0, 10, 10), Rechteck(10.003, 0, 30, 10)}), 0.0));
 }
 
+TEST(Vereinigung, WhatSixDecimalsLoseDoesNotChooseBetweenEquals) {
+  const GEOM2_Polygon erste = Rechteck(0, 0, 10, 10);
+  for (const double rest : {-1e-6, 0.0, 1e-6}) {
+    const GEOM2_Polygon zweite = Rechteck(50, 0, 60 + rest, 10);
+    EXPECT_TRUE(GleicherRing(erste, Vereinigt({erste, zweite}), 0.0)) << rest;
+    EXPECT_TRUE(GleicherRing(zweite, Vereinigt({zweite, erste}), 0.0)) << rest;
+  }
+  const GEOM2_Polygon groesser = Rechteck(50, 0, 60.001, 10);
+  EXPECT_TRUE(GleicherRing(groesser, Vereinigt({erste, groesser}), 0.0));
+}
+
 TEST(Vereinigung, StartsAtTheFirstVertexThatTheOutlineHas) {
   // Vertex 0 of the first shape lies inside the outline, vertex 1 is a corner of it.
   const Formen formen{Poly("(10,5) (10,10) (0,10) (0,5)"), Rechteck(0, 0, 20, 5),

@@ -82,19 +82,15 @@ std::vector<Eckenring> SchleifenAbschneiden(const Eckenring& ring) {
 }
 
 Eckenring Groesstes(const std::vector<Eckenring>& stuecke, int umlauf) {
-  Eckenring groesstes;
-  double flaeche = 0.0;
-  int erste = 0;
+  std::vector<Ringwahl> wahl;
+  wahl.reserve(stuecke.size());
   for (const Eckenring& stueck : stuecke) {
-    const double neu = Ringflaeche(Orte(stueck));
-    const int neueErste = std::min_element(stueck.begin(), stueck.end(), IstFrueher)->quelle;
-    const bool gleich = std::fabs(neu - flaeche) <= kGleicheFlaeche * flaeche;
-    if (groesstes.empty() || (gleich ? neueErste < erste : neu > flaeche)) {
-      groesstes = stueck;
-      flaeche = neu;
-      erste = neueErste;
-    }
+    const auto erste = std::min_element(stueck.begin(), stueck.end(), IstFrueher);
+    wahl.push_back(RingwahlVon(Orte(stueck), static_cast<std::size_t>(erste->quelle)));
   }
+  const std::size_t gewaehlt = Groesster(wahl);
+  if (gewaehlt == stuecke.size()) return {};
+  Eckenring groesstes = stuecke[gewaehlt];
   if (umlauf < 0) SeitenUmkehren(groesstes);
   std::rotate(groesstes.begin(), std::min_element(groesstes.begin(), groesstes.end(), IstFrueher),
               groesstes.end());

@@ -141,19 +141,12 @@ class Vereinigung {
 
   /// The one with the largest area; of equals the one with the earliest vertex.
   Ergebnisring Groesster(const std::vector<Ergebnisring>& ringe) const {
-    const Ergebnisring* groesster = nullptr;
-    double flaeche = 0.0;
-    for (const Ergebnisring& ring : ringe) {
-      const double neu = Ringflaeche(Orte(ring));
-      if (!(neu > 0.0)) continue;
-      const bool gleich = std::fabs(neu - flaeche) <= kGleicheFlaeche * flaeche;
-      if (groesster == nullptr ||
-          (gleich ? ErsterPlatz(ring) < ErsterPlatz(*groesster) : neu > flaeche)) {
-        groesster = &ring;
-        flaeche = neu;
-      }
-    }
-    return groesster != nullptr ? *groesster : Ergebnisring{};
+    std::vector<Ringwahl> wahl;
+    wahl.reserve(ringe.size());
+    for (const Ergebnisring& ring : ringe)
+      wahl.push_back(RingwahlVon(Orte(ring), ErsterPlatz(ring)));
+    const std::size_t groesster = lintavo::Groesster(wahl);
+    return groesster < ringe.size() ? ringe[groesster] : Ergebnisring{};
   }
 
   Liste<XY> Orte(const Ergebnisring& ring) const {

@@ -7,6 +7,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
 
 namespace lintavo {
@@ -298,6 +299,27 @@ double Ringflaeche(std::span<const XY> ring) {
     summe += Kreuzprodukt(Differenz(ring[i], ring[0]), Differenz(ring[i + 1], ring[0]));
   }
   return summe / 2;
+}
+
+Ringwahl RingwahlVon(std::span<const XY> ring, std::size_t erste) {
+  Ringwahl wahl{Ringflaeche(ring), 0.0, erste};
+  for (std::size_t i = 0; i < ring.size(); ++i) {
+    wahl.umfang += Abstand(ring[i], ring[i + 1 == ring.size() ? 0 : i + 1]);
+  }
+  return wahl;
+}
+
+std::size_t Groesster(std::span<const Ringwahl> ringe) {
+  const auto kleiner = [](const Ringwahl& a, const Ringwahl& b) { return a.flaeche < b.flaeche; };
+  const auto groesster = std::max_element(ringe.begin(), ringe.end(), kleiner);
+  if (groesster == ringe.end() || !(groesster->flaeche > 0.0)) return ringe.size();
+  const double gleich = groesster->flaeche - kGleicheFlaeche * groesster->umfang;
+  std::size_t gewaehlt = static_cast<std::size_t>(groesster - ringe.begin());
+  for (std::size_t i = 0; i < ringe.size(); ++i) {
+    if (ringe[i].flaeche < gleich || !(ringe[i].flaeche > 0.0)) continue;
+    if (ringe[i].erste < ringe[gewaehlt].erste) gewaehlt = i;
+  }
+  return gewaehlt;
 }
 
 }  // namespace lintavo

@@ -57,4 +57,17 @@ std::vector<std::vector<std::size_t>> AnBeruehrungenTeilen(std::span<const std::
 /// Signed area, positive for counter-clockwise order.
 double Ringflaeche(std::span<const XY> ring);
 
+/// What chooses one of several rings.
+struct Ringwahl {
+  double flaeche = 0.0;
+  double umfang = 0.0;
+  std::size_t erste = 0;  ///< number of the earliest source of its corners
+};
+
+Ringwahl RingwahlVon(std::span<const XY> ring, std::size_t erste);
+
+/// Index of the ring with the largest area, of equals the one with the earliest source;
+/// one past the end when none has an area.
+std::size_t Groesster(std::span<const Ringwahl> ringe);
+
 }  // namespace lintavo

@@ -43,8 +43,10 @@ inline constexpr double kSenkrechteSteigung = 1e10;
 /// Twice the signed area above which a ring is counter-clockwise.
 inline constexpr double kOrientierung = 1e-6;
 
-/// Share by which two areas may differ and still be equal.
-inline constexpr double kGleicheFlaeche = 1e-9;
+/// Width of the strip along an outline by which its area may exceed another's while both
+/// still count as equal. Files keep six decimals of every distance between axes: when one
+/// of two equal outlines has to be chosen, the rest that got lost must not choose it.
+inline constexpr double kGleicheFlaeche = 1e-4;
 
 /// Texture scales that differ by no more than this are the same one.
 inline constexpr double kGleicheTexturskala = 1e-4;
