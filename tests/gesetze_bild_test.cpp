@@ -152,7 +152,9 @@ std::vector<Strecke> Kanten(const CMFenster& fenster) {
     EXPECT_TRUE(fluegel.GetFuellung(0, verglast, lamellen));
     EXPECT_TRUE(fluegel.ErzeugeRahmenInnenPolygon(true, verglast));
     umrisse.push_back(verglast);
-    for (const GEOM2_Polygon& lamelle : UmrisseVon(lamellen)) umrisse.push_back(lamelle);
+    for (std::size_t n = 0; n < lamellen.size(); ++n) {
+      EXPECT_TRUE(fluegel.GetLamellenUmriss(static_cast<long>(n), umrisse.emplace_back()));
+    }
   }
   std::vector<Strecke> kanten;
   for (const GEOM2_Polygon& umriss : umrisse) {

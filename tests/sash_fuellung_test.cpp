@@ -89,6 +89,24 @@ TEST(Lamellen, AreCutToTheContour) {
   EXPECT_NEAR(slats[3].Achse(0).dLaenge, 25.0, 1e-9);
 }
 
+TEST(Lamellen, ShowTheirStripOfTheContour) {
+  CMFensterSatzRechteck fluegel = Fluegel(Poly("(0,0) (100,0) (100,100) (50,200) (0,100)"), 0.0);
+  fluegel.Fuellung.SetLamellen(60.0, 1.5);
+  fluegel.Fuellung.D1 = 10.0;
+  const char* const erwartet[] = {"(0,10) (100,10) (100,70) (0,70)",
+                                  "(0,80) (100,80) (100,100) (80,140) (20,140) (0,100)",
+                                  "(25,150) (75,150) (50,200)"};
+  ASSERT_EQ(fluegel.GetAnzahlLamellen(), 3);
+  GEOM2_Polygon umriss;
+  for (long i = 0; i < 3; ++i) {
+    ASSERT_TRUE(fluegel.GetLamellenUmriss(i, umriss));
+    EXPECT_TRUE(GleicherRing(Poly(erwartet[i]), umriss, 1e-9)) << i;
+    for (int n = 0; n < umriss.GetAnzahl(); ++n) EXPECT_EQ(umriss.GetAttribut(n), 1);
+  }
+  EXPECT_FALSE(fluegel.GetLamellenUmriss(3, umriss));
+  EXPECT_EQ(umriss.GetAnzahl(), 0);
+}
+
 TEST(Lamellen, CarryWhatTheFillingSays) {
   CMFensterSatzRechteck fluegel = Fluegel(Rechteck(0, 0, 80, 100), 10.0);
   fluegel.Fuellung.SetLamellen(40.0, 1.5);

@@ -149,7 +149,14 @@ void AddFilling(const CFeApi& window, const CMFensterSatz& satz, long i, JsonWri
   for (const long n : {1, 2, 3, 4}) attributes.push_back(window.GetFluegelFuellungAttribut(i, n));
   json.Add("attributes", attributes);
   json.Add("outline", JsonPolygon(umriss));
-  AddParts("slats", Lamellen(lamellen, i), json);
+  json.BeginArray("slats");
+  for (const Komponente& lamelle : Lamellen(lamellen, i)) {
+    Json part = PartOf(lamelle);
+    window.GetFluegelLamellenUmriss(i, lamelle.index, umriss);
+    part["outline"] = JsonPolygon(umriss);
+    json.Add(part);
+  }
+  json.End();
   json.End();
 }
 

@@ -225,7 +225,7 @@ class LINTAVO_API CFeApi {
   int GetFluegelZuerstAufgehend(long i) const;
   /// Contour of the filling of sash `i`.
   int GetFluegelFuellungUmriss(long i, CFeApiPolygon& umriss) const;
-  /// Number of slats, and the outline of one.
+  /// Number of slats, and what is seen of one: its strip of the inner contour.
   long GetFluegelAnzahlLamellen(long i) const;
   int GetFluegelLamellenUmriss(long i, long j, CFeApiPolygon& umriss) const;
   /// Clear glass dimensions between the axes of the bars, from left to right

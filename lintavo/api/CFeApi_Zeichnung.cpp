@@ -187,10 +187,8 @@ int CFeApi::GetFluegelLamellenUmriss(long i, long j, CFeApiPolygon& umriss) cons
   umriss.Delete();
   return Geschuetzt(0, [&] {
     const CMFensterSatz* fluegel = Fluegel(i);
-    CMBauteil lamelle;
-    if (!fluegel || !fluegel->GetLamelle(kOhneNummer, j, lamelle)) return 0;
     GEOM2_Polygon polygon;
-    lamelle.GetUmrissPunkte(polygon);
+    if (!fluegel || !fluegel->GetLamellenUmriss(j, polygon)) return 0;
     KopierePolygon(polygon, umriss);
     return 1;
   });

@@ -123,7 +123,7 @@ LINTAVO_API int lintavo_window_get_fluegel_fuellung_umriss(const lintavo_window*
                                                            lintavo_polygon* outline);
 /** Number of slats of the filling of sash `i`. */
 LINTAVO_API long lintavo_window_get_fluegel_anzahl_lamellen(const lintavo_window* window, long i);
-/** Outline of slat `j` of sash `i`. */
+/** What is seen of slat `j` of sash `i`: its strip of the inner contour. */
 LINTAVO_API int lintavo_window_get_fluegel_lamellen_umriss(const lintavo_window* window, long i,
                                                            long j, lintavo_polygon* outline);
 /** Number of fittings of sash `i`; -1 for a bad index. */

@@ -270,6 +270,11 @@ class LINTAVO_API CMFensterSatz {
   /// `lamelle` left alone, when there is no slat `i`.
   long GetAnzahlLamellen() const;
   bool GetLamelle(long nummer, long i, CMBauteil& lamelle) const;
+  /// What is seen of slat `i`: the strip of its width across the inner contour with extra
+  /// parts. The slat itself is sawn straight, so under an arch its own outline leaves a gap
+  /// or stands out.
+  /// False, with an empty outline, when there is no slat `i`.
+  bool GetLamellenUmriss(long i, GEOM2_Polygon& umriss) const;
 
   /// Appends the glass dimensions: the chain from one side of the inner contour's
   /// box to the other along the axes of the bars that run straight across it.

@@ -95,6 +95,18 @@ bool CMFensterSatz::GetLamelle(long nummer, long i, CMBauteil& lamelle) const {
   return lintavo::Lamellenlage(Fuellung, nummer, contour).LegeNummer(i, lamelle);
 }
 
+bool CMFensterSatz::GetLamellenUmriss(long i, GEOM2_Polygon& umriss) const {
+  GEOM2_Polygon innen;
+  umriss.Clear();
+  if (!Fuellung.IsLamellen() || !KonturLesen(true, innen)) return false;
+  GEOM2_Polygon contour = innen;
+  KurzeKantenGlaetten(Fuellung.D7, contour);
+  CMBauteil lamelle;
+  if (!lintavo::Lamellenlage(Fuellung, 0, contour).LegeNummer(i, lamelle)) return false;
+  umriss = lintavo::SichtbareLamelle(lamelle, innen);
+  return true;
+}
+
 bool CMFensterSatz::GetMaszeGlaslichteHori(std::vector<CMStrecke>& masze) const {
   return MaszeGlaslichte(true, masze);
 }

@@ -1,5 +1,6 @@
 #include "lintavo/sash/Lamellenlage_intern.h"
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -19,6 +20,47 @@ constexpr double kKleinsterRest = 0.1;
 bool SindMasze(double breite, double teilung) {
   return breite > kNullLaenge && teilung >= kNullLaenge && std::isfinite(breite) &&
          std::isfinite(teilung);
+}
+
+std::vector<XY> Ring(const GEOM2_Polygon& polygon) {
+  std::vector<XY> ring;
+  ring.reserve(static_cast<std::size_t>(polygon.GetAnzahl()));
+  for (int i = 0; i < polygon.GetAnzahl(); ++i) ring.push_back(Ort(polygon.GetEckpunkt(i)));
+  return ring;
+}
+
+// Across a convex contour lines get longer up to some height and shorter from there on.
+bool IstKonvexeKontur(const GEOM2_Polygon& contour) {
+  const std::vector<XY> ring = Ring(contour);
+  return ring.size() >= 3 && IstKonvex(ring);
+}
+
+// What of a convex ring lies below the line at y (sinn +1) or above it (-1).
+std::vector<XY> Abgeschnitten(const std::vector<XY>& ring, double y, int sinn) {
+  std::vector<XY> rest;
+  rest.reserve(ring.size() + 2);
+  for (std::size_t i = 0; i < ring.size(); ++i) {
+    const XY& p = ring[i];
+    const XY& q = ring[i + 1 == ring.size() ? 0 : i + 1];
+    const double hier = sinn * (p.y - y);
+    const double dort = sinn * (q.y - y);
+    if (hier <= kNullLaenge) rest.push_back(p);
+    if (std::min(hier, dort) < -kNullLaenge && std::max(hier, dort) > kNullLaenge) {
+      rest.push_back({p.x + (q.x - p.x) * (hier / (hier - dort)), y});
+    }
+  }
+  return rest;
+}
+
+// The gap before the last slat may lift it past the contour.
+GEOM2_Polygon HoechstensBis(double y, const CMBauteil& lamelle) {
+  GEOM2_Polygon umriss;
+  lamelle.GetUmrissPunkte(umriss);
+  for (int i = 0; i < umriss.GetAnzahl(); ++i) {
+    const GEOM2_Eckpunkt& ecke = umriss.GetEckpunkt(i);
+    umriss.SetPunkt(i, ecke.x, std::min(ecke.y, y));
+  }
+  return umriss;
 }
 
 }  // namespace
@@ -92,13 +134,9 @@ long Lamellenlage::ErsterPlatz() {
   return platz;
 }
 
-// Across a convex contour lines get longer up to some height and shorter from there
-// on, so that there is no place without a slat between two with one.
+// Then there is no place without a slat between two with one.
 bool Lamellenlage::IstLueckenlos() const {
-  std::vector<XY> ring;
-  ring.reserve(static_cast<std::size_t>(contour_.GetAnzahl()));
-  for (int i = 0; i < contour_.GetAnzahl(); ++i) ring.push_back(Ort(contour_.GetEckpunkt(i)));
-  return ring.size() >= 3 && IstKonvex(ring);
+  return IstKonvexeKontur(contour_);
 }
 
 long Lamellenlage::Anzahl() {
@@ -123,6 +161,21 @@ bool Lamellenlage::LegeNummer(long i, CMBauteil& lamelle) {
     if (Schneide(platz, achse) && i-- == 0) return Lege(platz, lamelle);
   }
   return false;
+}
+
+GEOM2_Polygon SichtbareLamelle(const CMBauteil& lamelle, const GEOM2_Polygon& contour) {
+  XY min;
+  XY max;
+  contour.GetMinMax(min, max);
+  if (!IstKonvexeKontur(contour)) return HoechstensBis(max.y, lamelle);
+  const double mitte = lamelle.Achse(0).Start.y;
+  const double halb = lamelle.dBreite / 2.0;
+  const std::vector<XY> streifen =
+      Abgeschnitten(Abgeschnitten(Ring(contour), mitte + halb, 1), mitte - halb, -1);
+  GEOM2_Polygon umriss;
+  for (const XY& p : streifen) umriss.AddPunkt(p.x, p.y);
+  for (int i = 0; i < umriss.GetAnzahl(); ++i) umriss.SetAttribut(i, 1);
+  return umriss;
 }
 
 }  // namespace lintavo

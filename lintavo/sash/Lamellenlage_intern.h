@@ -52,4 +52,9 @@ class Lamellenlage {
   double y_ = 0.0;
 };
 
+/// What is seen of a slat within its contour: the strip of its width across the whole
+/// contour, where the cuts of the slat itself are straight. Of a contour that is not convex
+/// the slat's own outline, up to the contour's top.
+GEOM2_Polygon SichtbareLamelle(const CMBauteil& lamelle, const GEOM2_Polygon& contour);
+
 }  // namespace lintavo

@@ -9,6 +9,7 @@
 #include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/platform/Numbers_intern.h"
 #include "lintavo/sash/CMFensterSatz.h"
+#include "lintavo/sash/Lamellenlage_intern.h"
 
 namespace lintavo {
 
@@ -68,23 +69,12 @@ class Teilesammler {
     for (const CMBauteil& lamelle : lamellen) {
       Add(lamelle);
       teile_.back().istFuellung = true;
-      EndeAnDerScheibe(scheibe, teile_.back().umriss);
+      teile_.back().umriss = SichtbareLamelle(lamelle, scheibe);
     }
     for (int i = 0; i < scheibe.GetAnzahl(); ++i) scheibe.SetAttribut(i, 1);
     const CMFuellung& fuellung = fluegel.Fuellung;
     teile_.push_back({std::move(scheibe), aussen_ ? fuellung.I2 : fuellung.I1,
                       aussen_ ? fuellung.I4 : fuellung.I3, true});
-  }
-
-  // The gap before the last slat may lift it past the pane, where it is not seen.
-  static void EndeAnDerScheibe(const GEOM2_Polygon& scheibe, GEOM2_Polygon& lamelle) {
-    XY low;
-    XY high;
-    scheibe.GetMinMax(low, high);
-    for (int i = 0; i < lamelle.GetAnzahl(); ++i) {
-      const GEOM2_Eckpunkt& ecke = lamelle.GetEckpunkt(i);
-      lamelle.SetPunkt(i, ecke.x, std::min(ecke.y, high.y));
-    }
   }
 
   bool aussen_;

@@ -47,7 +47,11 @@ std::vector<Teil> TeileVon(const CMFenster& fenster) {
     GEOM2_Polygon verglast;
     std::vector<CMBauteil> lamellen;
     EXPECT_TRUE(fluegel.GetFuellung(0, verglast, lamellen));
-    AddBauteile(lamellen, wie(Art::kLamelle), teile);
+    for (std::size_t n = 0; n < lamellen.size(); ++n) {
+      Teil& lamelle = teile.emplace_back(wie(Art::kLamelle));
+      lamelle.nr = n;
+      EXPECT_TRUE(fluegel.GetLamellenUmriss(static_cast<long>(n), lamelle.umriss));
+    }
     Teil& fuellung = teile.emplace_back(wie(Art::kFuellung));
     EXPECT_TRUE(fluegel.ErzeugeRahmenInnenPolygon(true, fuellung.umriss));
     for (int n = 0; n < fuellung.umriss.GetAnzahl(); ++n) fuellung.umriss.SetAttribut(n, 1);
