@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <span>
 
 #include "lintavo/geom/GEOM2_Polygon.h"
@@ -26,6 +27,14 @@ const Streckenstueck* LaengstesInnen(std::span<const Streckenstueck> stuecke) {
     }
   }
   return laengstes;
+}
+
+/// The stretch inside that holds the point at u; null when that point is outside.
+const Streckenstueck* InnenBei(std::span<const Streckenstueck> stuecke, double u) {
+  for (const Streckenstueck& stueck : stuecke) {
+    if (stueck.innen && stueck.von <= u && u <= stueck.bis) return &stueck;
+  }
+  return nullptr;
 }
 
 /// The outline as an axis sees it: u along the axis from its start, v to its left, the
@@ -111,13 +120,17 @@ class Achssicht {
   }
 
   /// Where the parallel at v leaves the polygon (sinn +1) or enters it (-1), nearest to u.
+  /// One that runs along an edge does so where the edges before and after it end, so that
+  /// it does not matter on which side of the axis the edge lies.
   bool Durchgang(double u, double v, int sinn, double& treffer) const {
     double naechster = std::numeric_limits<double>::infinity();
     for (std::size_t i = 0; i < ecken_.size(); ++i) {
-      const XY& p = ecken_[i];
-      const XY& q = Danach(i);
-      if ((p.y < v) == (q.y < v) || (q.y > p.y) != (sinn > 0)) continue;
-      const double hier = p.x + (q.x - p.x) * ((v - p.y) / (q.y - p.y));
+      const XY& von = sinn > 0 ? ecken_[i] : Danach(i);
+      const XY& bis = sinn > 0 ? Danach(i) : ecken_[i];
+      const double hoehe = bis.y - von.y;
+      if (!(hoehe > kNullLaenge) || von.y > v + kNullLaenge || bis.y < v - kNullLaenge) continue;
+      const double anteil = std::clamp((v - von.y) / hoehe, 0.0, 1.0);
+      const double hier = von.x + (bis.x - von.x) * anteil;
       if (std::fabs(hier - u) >= naechster) continue;
       naechster = std::fabs(hier - u);
       treffer = hier;
@@ -143,6 +156,44 @@ void WinkelSetzen(double tangens, double& winkel) {
   if (!(std::fabs(neu - winkel) <= lintavo::kGleicherWinkel)) winkel = neu;
 }
 
+// The piece that holds the point at `bei`, or without that the longest.
+bool AufStueckKuerzen(const GEOM2_Polygon& polygon, double d, std::optional<double> bei,
+                      GEOM2_Achse& achse) {
+  const double phi = achse.dWinkel * lintavo::kRadiantJeGrad;
+  const XY richtung{std::cos(phi), std::sin(phi)};
+  const XY ende = lintavo::Summe(achse.Start, lintavo::Mal(richtung, achse.dLaenge));
+  lintavo::Arbeitsspeicher speicher;
+  Liste<Streckenstueck> stuecke(&speicher);
+  if (achse.dLaenge >= kNullLaenge) {
+    stuecke = lintavo::StreckeTeilen(achse.Start, ende, polygon, kNullLaenge, &speicher);
+  }
+  const Streckenstueck* innen = bei.has_value() ? InnenBei(stuecke, *bei) : LaengstesInnen(stuecke);
+  if (innen == nullptr || innen->bis - innen->von < kNullLaenge) {
+    achse.dLaenge = 0.0;
+    return false;
+  }
+  const bool ganzerAnfang = innen == &stuecke.front();
+  const bool ganzesEnde = innen == &stuecke.back();
+  const double von = ganzerAnfang ? 0.0 : innen->von;
+  if (!ganzesEnde) {
+    achse.dLaenge = innen->bis - von;
+  } else if (!ganzerAnfang) {
+    achse.dLaenge -= von;
+  }
+  if (!ganzerAnfang) achse.Start = lintavo::Summe(achse.Start, lintavo::Mal(richtung, von));
+
+  const double breite = std::isfinite(d) ? std::fabs(d) : 0.0;
+  const Achssicht sicht(polygon, achse.Start, richtung, &speicher);
+  double anfang = std::tan(achse.dWinkelAnfang * lintavo::kRadiantJeGrad);
+  double schluss = std::tan(achse.dWinkelEnde * lintavo::kRadiantJeGrad);
+  const bool amAnfang = sicht.Schnitttangens(0.0, breite, -1, anfang);
+  const bool amEnde = sicht.Schnitttangens(achse.dLaenge, breite, 1, schluss);
+  if (amAnfang || amEnde) KreuzendeSchnitteAufrichten(achse.dLaenge, breite, anfang, schluss);
+  if (amAnfang) WinkelSetzen(anfang, achse.dWinkelAnfang);
+  if (amEnde) WinkelSetzen(schluss, achse.dWinkelEnde);
+  return true;
+}
+
 }  // namespace
 
 bool GEOM2_Polygon::StreckeClippen(XY& p1, XY& p2) const {
@@ -160,37 +211,9 @@ bool GEOM2_Polygon::StreckeClippen(XY& p1, XY& p2) const {
 }
 
 bool GEOM2_Polygon::AchseClippen(GEOM2_Achse& achse, double d) const {
-  const double phi = achse.dWinkel * lintavo::kRadiantJeGrad;
-  const XY richtung{std::cos(phi), std::sin(phi)};
-  const XY ende = lintavo::Summe(achse.Start, lintavo::Mal(richtung, achse.dLaenge));
-  lintavo::Arbeitsspeicher speicher;
-  Liste<Streckenstueck> stuecke(&speicher);
-  if (achse.dLaenge >= kNullLaenge) {
-    stuecke = lintavo::StreckeTeilen(achse.Start, ende, *this, kNullLaenge, &speicher);
-  }
-  const Streckenstueck* innen = LaengstesInnen(stuecke);
-  if (innen == nullptr || innen->bis - innen->von < kNullLaenge) {
-    achse.dLaenge = 0.0;
-    return false;
-  }
-  const bool ganzerAnfang = innen == &stuecke.front();
-  const bool ganzesEnde = innen == &stuecke.back();
-  const double von = ganzerAnfang ? 0.0 : innen->von;
-  if (!ganzesEnde) {
-    achse.dLaenge = innen->bis - von;
-  } else if (!ganzerAnfang) {
-    achse.dLaenge -= von;
-  }
-  if (!ganzerAnfang) achse.Start = lintavo::Summe(achse.Start, lintavo::Mal(richtung, von));
+  return AufStueckKuerzen(*this, d, std::nullopt, achse);
+}
 
-  const double breite = std::isfinite(d) ? std::fabs(d) : 0.0;
-  const Achssicht sicht(*this, achse.Start, richtung, &speicher);
-  double anfang = std::tan(achse.dWinkelAnfang * lintavo::kRadiantJeGrad);
-  double schluss = std::tan(achse.dWinkelEnde * lintavo::kRadiantJeGrad);
-  const bool amAnfang = sicht.Schnitttangens(0.0, breite, -1, anfang);
-  const bool amEnde = sicht.Schnitttangens(achse.dLaenge, breite, 1, schluss);
-  if (amAnfang || amEnde) KreuzendeSchnitteAufrichten(achse.dLaenge, breite, anfang, schluss);
-  if (amAnfang) WinkelSetzen(anfang, achse.dWinkelAnfang);
-  if (amEnde) WinkelSetzen(schluss, achse.dWinkelEnde);
-  return true;
+bool GEOM2_Polygon::AchseClippen(GEOM2_Achse& achse, double d, double bei) const {
+  return AufStueckKuerzen(*this, d, bei, achse);
 }

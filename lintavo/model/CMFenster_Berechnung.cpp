@@ -52,22 +52,23 @@ void ClearValues(GEOM2_Polygon& polygon) {
 
 enum class Ende { kAnfang, kEnde };
 
-// Lengthens one end of an outer extra part and cuts it to a contour. The other
-// end keeps its cut angle; lengthening alone would clear both.
+// Lengthens one end of an outer extra part and cuts it to a contour, where the part
+// stays: beyond a gap there may be a longer piece of the contour's inside. The other end
+// keeps its cut angle unless it meets the contour too; lengthening alone would clear both.
 void EndeAnschliessen(CMBauteil& bauteil, Ende ende, const GEOM2_Polygon& kontur) {
   const GEOM2_Achse before = bauteil.Achse(0);
   const bool atStart = ende == Ende::kAnfang;
   bauteil.Verlaengern(atStart ? kAnschlussVerlaengerung : 0.0,
                       atStart ? 0.0 : kAnschlussVerlaengerung);
   GEOM2_Achse& achse = bauteil.Achse(0);
-  if (!kontur.AchseClippen(achse, kAnschlussSchnittAbstand * bauteil.dBreite)) {
-    achse = before;
-    return;
-  }
   if (atStart) {
     achse.dWinkelEnde = before.dWinkelEnde;
   } else {
     achse.dWinkelAnfang = before.dWinkelAnfang;
+  }
+  const double mitte = (atStart ? kAnschlussVerlaengerung : 0.0) + 0.5 * before.dLaenge;
+  if (!kontur.AchseClippen(achse, kAnschlussSchnittAbstand * bauteil.dBreite, mitte)) {
+    achse = before;
   }
 }
 
