@@ -37,18 +37,21 @@ bool IsAmRahmen(const CMStrecke& kante, const GEOM2_Polygon& innen, const GEOM2_
   return false;
 }
 
-// Whether an edge runs along a mullion or transom that is there already.
+// Whether an edge runs along a mullion or transom that is there already: between its nodes,
+// or along its axis, which under a slanted top goes on beyond the node next to it.
 bool IsAnPfosten(const CMStrecke& kante, const std::vector<CMBauteil>& teile,
                  const CMAchsen& achsen) {
   XY a;
   XY b;
   kante.GetPunkte(a, b);
   return std::any_of(teile.begin(), teile.end(), [&](const CMBauteil& teil) {
+    if (!teil.IsRahmenteil()) return false;
     XY c;
     XY d;
     achsen.GetPunkt(teil.kAnfang, c);
     achsen.GetPunkt(teil.kEnde, d);
-    return teil.IsRahmenteil() && lintavo::SeitenDecken(a, b, c, d);
+    if (lintavo::SeitenDecken(a, b, c, d)) return true;
+    return teil.GetAchspunkte(c, d) && lintavo::SeitenDecken(a, b, c, d);
   });
 }
 
