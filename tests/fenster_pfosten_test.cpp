@@ -99,6 +99,21 @@ TEST(Pfosten, AutomaticOnesKeepOffThoseThatAreThere) {
   }
 }
 
+TEST(Pfosten, OneThatGoesOnUnderASlantedTopIsFoundAgain) {
+  // The common edge ends at a height of 140, nearest to the node at 100.
+  CMFenster fenster = Raster(2, 2, 80.0, 100.0);
+  fenster.GetPfostenVorlage() = Vorlage();
+  fenster.GetFluegelPtr(2)->SetFormBeiwertY(0, 70.0, true);
+  fenster.GetFluegelPtr(2)->SetFormBeiwertY(1, 60.0, true);
+  fenster.GetFluegelPtr(3)->SetFormBeiwertY(0, 60.0, true);
+  ASSERT_TRUE(fenster.Berechne(true));
+  const std::vector<GEOM2_Polygon> before = Umrisse(fenster);
+  const std::size_t anzahl = fenster.GetRahmenPtr()->EinzelTeile.size();
+  ASSERT_TRUE(fenster.Berechne(true));
+  EXPECT_EQ(fenster.GetRahmenPtr()->EinzelTeile.size(), anzahl);
+  EXPECT_EQ(Umrisse(fenster).size(), before.size());
+}
+
 TEST(Pfosten, AGroupOutsideTheFrameGetsNone) {
   CMFenster fenster = Raster(4, 1, 50.0, 100.0);
   fenster.DeleteFluegel(2);

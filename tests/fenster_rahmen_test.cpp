@@ -6,6 +6,7 @@
 #include "lintavo/model/CMFenster.h"
 
 #include "support/Beispiele.h"
+#include "support/Geometrie.h"
 
 namespace lintavo::test {
 namespace {
@@ -211,6 +212,26 @@ TEST(Rahmenteile, NumberingMergesBentRunsButNeverVerticalSides) {
   for (int i = 0; i < 6; ++i) EXPECT_EQ(polygon.GetAttribut(i), expected[i]) << i;
   GEOM2_Polygon empty;
   EXPECT_EQ(satz.RahmenSegmenteZusammenfassen(60.0, 25.0, empty), -1);
+}
+
+TEST(Aussenteile, StayAtTheirSideWhereTheContourGoesOnBeyondAGap) {
+  // Three rows, the middle one half as wide; below the gap there is more room to the right.
+  CMFenster fenster = Raster(2, 3, 50.0, 50.0);
+  fenster.GetAchsen().SetAchsAbstY(3, 30.0);
+  fenster.DeleteFluegel(3);
+  ASSERT_TRUE(fenster.Berechne(false));
+  CMFensterSatz& rahmen = *fenster.GetRahmenPtr();
+  CMBauteil unten;
+  unten.dBreite = 20.0;
+  CMBauteil oben;
+  oben.dBreite = 10.0;
+  oben.cAbschnittsTypAnfang = oben.cAbschnittsTypEnde = 4;
+  ASSERT_NE(rahmen.AddZusatzteil(1, unten, true), nullptr);
+  ASSERT_NE(rahmen.AddZusatzteil(5, oben, true), nullptr);
+  ASSERT_TRUE(fenster.Berechne(false));
+  GEOM2_Polygon umriss;
+  ASSERT_TRUE(rahmen.GetEinzelBauteilPtr(1)->GetUmrissPunkte(umriss));
+  EXPECT_TRUE(GleicherRing(Rechteck(100.0, 100.0, 110.0, 130.0), umriss, 1e-9));
 }
 
 TEST(Rahmenteile, IndexPastTheEndGivesTheTemplate) {

@@ -39,7 +39,7 @@ class Filling:
 
     @property
     def slats(self) -> Tuple[Polygon, ...]:
-        """Outlines of the slats."""
+        """What is seen of each slat: its strip of the inner contour."""
         count = self._sash._call("lintavo_window_get_fluegel_anzahl_lamellen")
         name = "lintavo_window_get_fluegel_lamellen_umriss"
         return tuple(
