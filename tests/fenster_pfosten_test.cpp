@@ -108,10 +108,17 @@ TEST(Pfosten, OneThatGoesOnUnderASlantedTopIsFoundAgain) {
   fenster.GetFluegelPtr(3)->SetFormBeiwertY(0, 60.0, true);
   ASSERT_TRUE(fenster.Berechne(true));
   const std::vector<GEOM2_Polygon> before = Umrisse(fenster);
-  const std::size_t anzahl = fenster.GetRahmenPtr()->EinzelTeile.size();
+  ASSERT_EQ(fenster.GetRahmenPtr()->EinzelTeile.size(), 2u);
   ASSERT_TRUE(fenster.Berechne(true));
-  EXPECT_EQ(fenster.GetRahmenPtr()->EinzelTeile.size(), anzahl);
-  EXPECT_EQ(Umrisse(fenster).size(), before.size());
+  const std::vector<GEOM2_Polygon> after = Umrisse(fenster);
+  ASSERT_EQ(after.size(), before.size());
+  for (std::size_t n = 0; n < after.size(); ++n) {
+    EXPECT_TRUE(GleichePunkte(after[n], before[n], 0.0)) << "outline " << n;
+  }
+  // From its nodes alone it is the shorter one, but still the only one.
+  fenster.Invalidiere(true);
+  ASSERT_TRUE(fenster.Berechne(true));
+  EXPECT_EQ(fenster.GetRahmenPtr()->EinzelTeile.size(), 2u);
 }
 
 TEST(Pfosten, AGroupOutsideTheFrameGetsNone) {

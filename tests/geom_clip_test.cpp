@@ -61,8 +61,6 @@ TEST(AchseClippen, WhereAParallelMissesTheEdgeDecides) {
   ErwarteAchse(achse, 0, 1, 19, 0, -45);
 }
 
-// The axis ends on a flat roof, over which the left parallel passes; the right one ends at
-// the wall, 3 below and 3 behind: the cut does not follow the roof far past the wall.
 TEST(AchseClippen, AParallelAlongAnEdgeEndsAtItsCorner) {
   // The parallel at +5 runs along the edge from (5,10) to (5,40).
   const GEOM2_Polygon stufe = Poly("(-20,0) (20,0) (20,10) (5,10) (5,40) (-20,40)");
@@ -74,6 +72,8 @@ TEST(AchseClippen, AParallelAlongAnEdgeEndsAtItsCorner) {
   ErwarteAchse(achse, -10, 0, 10, 0, 0);
 }
 
+// The axis ends on a flat roof, over which the left parallel passes; the right one ends at
+// the wall, 3 below and 3 behind: the cut does not follow the roof far past the wall.
 TEST(AchseClippen, AFlatEdgeDoesNotSendTheCutPastItsNeighbour) {
   GEOM2_Achse achse = Achse({-5, 8}, {25, 8});
   EXPECT_TRUE(Poly("(0,0) (20,0) (20,7.7) (0,9.7)").AchseClippen(achse, 3));
@@ -91,14 +91,19 @@ TEST(AchseClippen, KeepsTheLongestPieceAndNeverLengthens) {
   ErwarteAchse(achse, 2, 2, 10, 30, 0);
 }
 
-TEST(AchseClippen, KeepsThePieceThatHoldsAPoint) {
+TEST(AchseClippen, KeepsThePieceAtAStretch) {
   const GEOM2_Polygon kerbe = Poly("(0,0) (20,0) (20,10) (8,10) (8,5) (6,5) (6,10) (0,10)");
   GEOM2_Achse achse = Achse({-5, 7}, {25, 7});
-  EXPECT_TRUE(kerbe.AchseClippen(achse, 1, 8));
+  EXPECT_TRUE(kerbe.AchseClippen(achse, 1, 8, 12));
   ErwarteAchse(achse, 0, 7, 6, 0, 0);
   achse = Achse({-5, 7}, {25, 7});
-  EXPECT_FALSE(kerbe.AchseClippen(achse, 1, 12)) << "in the notch";
-  EXPECT_EQ(achse.dLaenge, 0.0);
+  EXPECT_TRUE(kerbe.AchseClippen(achse, 1, 9, 14)) << "more of it before the notch";
+  ErwarteAchse(achse, 0, 7, 6, 0, 0);
+  achse = Achse({-5, 7}, {25, 7});
+  EXPECT_TRUE(kerbe.AchseClippen(achse, 1, 0, 2)) << "outside";
+  ErwarteAchse(achse, 0, 7, 6, 0, 0);
+  achse = Achse({-5, 12}, {25, 12});
+  EXPECT_FALSE(kerbe.AchseClippen(achse, 1, 5, 10));
 }
 
 TEST(AchseClippen, NothingInsideLeavesLengthZero) {

@@ -131,6 +131,11 @@ TEST(Vereinigung, WhatSixDecimalsLoseDoesNotChooseBetweenEquals) {
     EXPECT_TRUE(GleicherRing(erste, Vereinigt({erste, zweite}), 0.0)) << rest;
     EXPECT_TRUE(GleicherRing(zweite, Vereinigt({zweite, erste}), 0.0)) << rest;
   }
+  // Both begin in the vertex in which they touch.
+  for (const double rest : {-1e-6, 0.0, 1e-6}) {
+    const GEOM2_Polygon oben = Rechteck(10, 10, 20, 20);
+    EXPECT_TRUE(GleicherRing(oben, Vereinigt({oben, Rechteck(rest, 0, 10, 10)}), 0.0)) << rest;
+  }
   const GEOM2_Polygon groesser = Rechteck(50, 0, 60.001, 10);
   EXPECT_TRUE(GleicherRing(groesser, Vereinigt({erste, groesser}), 0.0));
 }

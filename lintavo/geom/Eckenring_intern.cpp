@@ -2,7 +2,7 @@
 #include "lintavo/geom/Eckenring_intern.h"
 
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
 #include "lintavo/geom/Ring_intern.h"
 #include "lintavo/geom/Toleranzen.h"
@@ -85,8 +85,10 @@ Eckenring Groesstes(const std::vector<Eckenring>& stuecke, int umlauf) {
   std::vector<Ringwahl> wahl;
   wahl.reserve(stuecke.size());
   for (const Eckenring& stueck : stuecke) {
-    const auto erste = std::min_element(stueck.begin(), stueck.end(), IstFrueher);
-    wahl.push_back(RingwahlVon(Orte(stueck), static_cast<std::size_t>(erste->quelle)));
+    std::vector<std::size_t> quellen;
+    quellen.reserve(stueck.size());
+    for (const Ringecke& ecke : stueck) quellen.push_back(static_cast<std::size_t>(ecke.quelle));
+    wahl.push_back(RingwahlVon(Orte(stueck), std::move(quellen)));
   }
   const std::size_t gewaehlt = Groesster(wahl);
   if (gewaehlt == stuecke.size()) return {};

@@ -42,7 +42,7 @@ std::vector<Eckenring> Stuecke(const std::vector<Ergebnisring>& ringe);
 /// The pieces that a counter-clockwise ring leaves once its loops are cut off.
 std::vector<Eckenring> SchleifenAbschneiden(const Eckenring& ring);
 
-/// The piece with the largest area, of equals the one with the earliest source, in the
+/// The piece with the largest area, of equals the one with the earliest sources, in the
 /// orientation asked for (-1 clockwise) and starting at its own earliest source.
 Eckenring Groesstes(const std::vector<Eckenring>& stuecke, int umlauf);
 

@@ -156,10 +156,10 @@ class LINTAVO_API GEOM2_Polygon {
   /// @return false when less than 1e-6 remains or the axis is not finite: its length
   ///         is 0 then and all else is as it was.
   bool AchseClippen(GEOM2_Achse& achse, double d) const;
-  /// The same for the piece that holds the point at `bei` from the axis' start; false where
-  /// that point is not inside. For an axis that was lengthened to meet the outline and is
-  /// not to be moved past a gap.
-  bool AchseClippen(GEOM2_Achse& achse, double d, double bei) const;
+  /// The same for the piece that has most in common with the stretch from `von` to `bis`,
+  /// counted from the axis' start; where none has, for the nearest to it. For an axis that
+  /// was lengthened to meet the outline and is not to be moved past a gap.
+  bool AchseClippen(GEOM2_Achse& achse, double d, double von, double bis) const;
   /// @}
 
   /// Lays the axis from p1 towards p2, with both cut angles 0. False for points closer

@@ -29,12 +29,20 @@ const Streckenstueck* LaengstesInnen(std::span<const Streckenstueck> stuecke) {
   return laengstes;
 }
 
-/// The stretch inside that holds the point at u; null when that point is outside.
-const Streckenstueck* InnenBei(std::span<const Streckenstueck> stuecke, double u) {
+/// The stretch inside that has most in common with the one asked for; where none has, the
+/// nearest to it. Null when nothing is inside.
+const Streckenstueck* InnenBei(std::span<const Streckenstueck> stuecke, double von, double bis) {
+  const Streckenstueck* naechstes = nullptr;
+  double beste = 0.0;
   for (const Streckenstueck& stueck : stuecke) {
-    if (stueck.innen && stueck.von <= u && u <= stueck.bis) return &stueck;
+    if (!stueck.innen) continue;
+    // Less than nothing is the gap between the two.
+    const double gemeinsam = std::min(stueck.bis, bis) - std::max(stueck.von, von);
+    if (naechstes != nullptr && !(gemeinsam > beste + kNullLaenge)) continue;
+    naechstes = &stueck;
+    beste = gemeinsam;
   }
-  return nullptr;
+  return naechstes;
 }
 
 /// The outline as an axis sees it: u along the axis from its start, v to its left, the
@@ -156,8 +164,8 @@ void WinkelSetzen(double tangens, double& winkel) {
   if (!(std::fabs(neu - winkel) <= lintavo::kGleicherWinkel)) winkel = neu;
 }
 
-// The piece that holds the point at `bei`, or without that the longest.
-bool AufStueckKuerzen(const GEOM2_Polygon& polygon, double d, std::optional<double> bei,
+// The piece at a stretch of the axis, or without one the longest.
+bool AufStueckKuerzen(const GEOM2_Polygon& polygon, double d, std::optional<Streckenstueck> bei,
                       GEOM2_Achse& achse) {
   const double phi = achse.dWinkel * lintavo::kRadiantJeGrad;
   const XY richtung{std::cos(phi), std::sin(phi)};
@@ -167,7 +175,8 @@ bool AufStueckKuerzen(const GEOM2_Polygon& polygon, double d, std::optional<doub
   if (achse.dLaenge >= kNullLaenge) {
     stuecke = lintavo::StreckeTeilen(achse.Start, ende, polygon, kNullLaenge, &speicher);
   }
-  const Streckenstueck* innen = bei.has_value() ? InnenBei(stuecke, *bei) : LaengstesInnen(stuecke);
+  const Streckenstueck* innen =
+      bei.has_value() ? InnenBei(stuecke, bei->von, bei->bis) : LaengstesInnen(stuecke);
   if (innen == nullptr || innen->bis - innen->von < kNullLaenge) {
     achse.dLaenge = 0.0;
     return false;
@@ -214,6 +223,6 @@ bool GEOM2_Polygon::AchseClippen(GEOM2_Achse& achse, double d) const {
   return AufStueckKuerzen(*this, d, std::nullopt, achse);
 }
 
-bool GEOM2_Polygon::AchseClippen(GEOM2_Achse& achse, double d, double bei) const {
-  return AufStueckKuerzen(*this, d, bei, achse);
+bool GEOM2_Polygon::AchseClippen(GEOM2_Achse& achse, double d, double von, double bis) const {
+  return AufStueckKuerzen(*this, d, Streckenstueck{.von = von, .bis = bis}, achse);
 }

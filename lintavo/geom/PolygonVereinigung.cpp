@@ -133,18 +133,21 @@ class Vereinigung {
     return ecke.ecke == kKeine ? kKeine : ecken_[ecke.ecke].ort;
   }
 
-  std::size_t ErsterPlatz(const Ergebnisring& ring) const {
-    std::size_t erster = kKeine;
-    for (const Ergebnisecke& ecke : ring) erster = std::min(erster, Platz(ecke));
-    return erster;
+  std::vector<std::size_t> PlaetzeVon(const Ergebnisring& ring) const {
+    std::vector<std::size_t> plaetze;
+    plaetze.reserve(ring.size());
+    for (const Ergebnisecke& ecke : ring) plaetze.push_back(Platz(ecke));
+    return plaetze;
   }
 
-  /// The one with the largest area; of equals the one with the earliest vertex.
+  /// The one with the largest area; of equals the one with the earliest vertices.
   Ergebnisring Groesster(const std::vector<Ergebnisring>& ringe) const {
+    if (ringe.size() == 1 && Ringflaeche(Orte(ringe[0])) > 0.0) return ringe[0];
     std::vector<Ringwahl> wahl;
     wahl.reserve(ringe.size());
-    for (const Ergebnisring& ring : ringe)
-      wahl.push_back(RingwahlVon(Orte(ring), ErsterPlatz(ring)));
+    for (const Ergebnisring& ring : ringe) {
+      wahl.push_back(RingwahlVon(Orte(ring), PlaetzeVon(ring)));
+    }
     const std::size_t groesster = lintavo::Groesster(wahl);
     return groesster < ringe.size() ? ringe[groesster] : Ergebnisring{};
   }

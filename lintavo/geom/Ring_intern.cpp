@@ -301,8 +301,9 @@ double Ringflaeche(std::span<const XY> ring) {
   return summe / 2;
 }
 
-Ringwahl RingwahlVon(std::span<const XY> ring, std::size_t erste) {
-  Ringwahl wahl{Ringflaeche(ring), 0.0, erste};
+Ringwahl RingwahlVon(std::span<const XY> ring, std::vector<std::size_t> quellen) {
+  Ringwahl wahl{Ringflaeche(ring), 0.0, std::move(quellen)};
+  std::sort(wahl.quellen.begin(), wahl.quellen.end());
   for (std::size_t i = 0; i < ring.size(); ++i) {
     wahl.umfang += Abstand(ring[i], ring[i + 1 == ring.size() ? 0 : i + 1]);
   }
@@ -314,10 +315,10 @@ std::size_t Groesster(std::span<const Ringwahl> ringe) {
   const auto groesster = std::max_element(ringe.begin(), ringe.end(), kleiner);
   if (groesster == ringe.end() || !(groesster->flaeche > 0.0)) return ringe.size();
   const double gleich = groesster->flaeche - kGleicheFlaeche * groesster->umfang;
-  std::size_t gewaehlt = static_cast<std::size_t>(groesster - ringe.begin());
+  std::size_t gewaehlt = ringe.size();
   for (std::size_t i = 0; i < ringe.size(); ++i) {
     if (ringe[i].flaeche < gleich || !(ringe[i].flaeche > 0.0)) continue;
-    if (ringe[i].erste < ringe[gewaehlt].erste) gewaehlt = i;
+    if (gewaehlt == ringe.size() || ringe[i].quellen < ringe[gewaehlt].quellen) gewaehlt = i;
   }
   return gewaehlt;
 }

@@ -61,12 +61,12 @@ double Ringflaeche(std::span<const XY> ring);
 struct Ringwahl {
   double flaeche = 0.0;
   double umfang = 0.0;
-  std::size_t erste = 0;  ///< number of the earliest source of its corners
+  std::vector<std::size_t> quellen;  ///< numbers that its corners come from, ascending
 };
 
-Ringwahl RingwahlVon(std::span<const XY> ring, std::size_t erste);
+Ringwahl RingwahlVon(std::span<const XY> ring, std::vector<std::size_t> quellen);
 
-/// Index of the ring with the largest area, of equals the one with the earliest source;
+/// Index of the ring with the largest area, of equals the one with the earliest sources;
 /// one past the end when none has an area.
 std::size_t Groesster(std::span<const Ringwahl> ringe);
 

@@ -50,26 +50,28 @@ void ClearValues(GEOM2_Polygon& polygon) {
   }
 }
 
-enum class Ende { kAnfang, kEnde };
+// Which ends of a part are fitted.
+struct Enden {
+  bool anfang = false;
+  bool ende = false;
+};
 
-// Lengthens one end of an outer extra part and cuts it to a contour, where the part
-// stays: beyond a gap there may be a longer piece of the contour's inside. The other end
-// keeps its cut angle unless it meets the contour too; lengthening alone would clear both.
-void EndeAnschliessen(CMBauteil& bauteil, Ende ende, const GEOM2_Polygon& kontur) {
+// Lengthens the ends of an outer extra part and cuts it to a contour, where the part
+// stays: beyond a gap there may be a longer piece of the contour's inside. An end that is
+// not fitted keeps its cut angle; lengthening alone would clear both.
+void Anschliessen(CMBauteil& bauteil, const Enden& enden, const GEOM2_Polygon& kontur) {
+  if (!enden.anfang && !enden.ende) return;
   const GEOM2_Achse before = bauteil.Achse(0);
-  const bool atStart = ende == Ende::kAnfang;
-  bauteil.Verlaengern(atStart ? kAnschlussVerlaengerung : 0.0,
-                      atStart ? 0.0 : kAnschlussVerlaengerung);
+  const double vorn = enden.anfang ? kAnschlussVerlaengerung : 0.0;
+  bauteil.Verlaengern(vorn, enden.ende ? kAnschlussVerlaengerung : 0.0);
   GEOM2_Achse& achse = bauteil.Achse(0);
-  if (atStart) {
-    achse.dWinkelEnde = before.dWinkelEnde;
-  } else {
-    achse.dWinkelAnfang = before.dWinkelAnfang;
-  }
-  const double mitte = (atStart ? kAnschlussVerlaengerung : 0.0) + 0.5 * before.dLaenge;
-  if (!kontur.AchseClippen(achse, kAnschlussSchnittAbstand * bauteil.dBreite, mitte)) {
+  if (!kontur.AchseClippen(achse, kAnschlussSchnittAbstand * bauteil.dBreite, vorn,
+                           vorn + before.dLaenge)) {
     achse = before;
+    return;
   }
+  if (!enden.anfang) achse.dWinkelAnfang = before.dWinkelAnfang;
+  if (!enden.ende) achse.dWinkelEnde = before.dWinkelEnde;
 }
 
 }  // namespace
@@ -180,18 +182,24 @@ void CMFenster::AussenZusatzteilAnschluesseBerechnen() {
   }
 }
 
-// Fits both ends of one outer extra part by their section-end types.
+// Fits both ends of one outer extra part by their section-end types, the start first; in
+// one go where both end on the same contour.
 void CMFenster::AussenTeilAnschliessen(CMBauteil& teil, const GEOM2_Polygon& aussen) const {
-  const int typAnfang = teil.cAbschnittsTypAnfang;
-  const int typEnde = teil.cAbschnittsTypEnde;
+  const Enden anVerbindung{IsAnVerbindung(teil.cAbschnittsTypAnfang),
+                           IsAnVerbindung(teil.cAbschnittsTypEnde)};
+  const Enden amUmriss{teil.cAbschnittsTypAnfang == kEndeAnAussenkontur,
+                       teil.cAbschnittsTypEnde == kEndeAnAussenkontur};
   GEOM2_Polygon verbindung;
-  if (IsAnVerbindung(typAnfang) || IsAnVerbindung(typEnde)) {
+  if (anVerbindung.anfang || anVerbindung.ende) {
     if (!VerbindungBilden(teil, aussen, verbindung)) return;
   }
-  if (IsAnVerbindung(typAnfang)) EndeAnschliessen(teil, Ende::kAnfang, verbindung);
-  if (typAnfang == kEndeAnAussenkontur) EndeAnschliessen(teil, Ende::kAnfang, aussen);
-  if (IsAnVerbindung(typEnde)) EndeAnschliessen(teil, Ende::kEnde, verbindung);
-  if (typEnde == kEndeAnAussenkontur) EndeAnschliessen(teil, Ende::kEnde, aussen);
+  if (amUmriss.anfang) {
+    Anschliessen(teil, amUmriss, aussen);
+    Anschliessen(teil, anVerbindung, verbindung);
+  } else {
+    Anschliessen(teil, anVerbindung, verbindung);
+    Anschliessen(teil, amUmriss, aussen);
+  }
 }
 
 // The quadrilateral between a side of the frame and the outer contour, in which

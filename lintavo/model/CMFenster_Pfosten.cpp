@@ -5,6 +5,7 @@
 #include <optional>
 #include <tuple>
 
+#include "lintavo/geom/Geraden.h"
 #include "lintavo/geom/Seitendeckung.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
@@ -37,21 +38,18 @@ bool IsAmRahmen(const CMStrecke& kante, const GEOM2_Polygon& innen, const GEOM2_
   return false;
 }
 
-// Whether an edge runs along a mullion or transom that is there already: between its nodes,
-// or along its axis, which under a slanted top goes on beyond the node next to it.
+// Whether an edge runs along a mullion or transom that is there already.
 bool IsAnPfosten(const CMStrecke& kante, const std::vector<CMBauteil>& teile,
                  const CMAchsen& achsen) {
   XY a;
   XY b;
   kante.GetPunkte(a, b);
   return std::any_of(teile.begin(), teile.end(), [&](const CMBauteil& teil) {
-    if (!teil.IsRahmenteil()) return false;
     XY c;
     XY d;
     achsen.GetPunkt(teil.kAnfang, c);
     achsen.GetPunkt(teil.kEnde, d);
-    if (lintavo::SeitenDecken(a, b, c, d)) return true;
-    return teil.GetAchspunkte(c, d) && lintavo::SeitenDecken(a, b, c, d);
+    return teil.IsRahmenteil() && lintavo::SeitenDecken(a, b, c, d);
   });
 }
 
@@ -121,6 +119,23 @@ bool IsSameNode(const CMKnoten& a, const CMKnoten& b) {
 bool IsBetween(const CMBauteil& bauteil, const CMKnoten& k1, const CMKnoten& k2) {
   return (IsSameNode(bauteil.kAnfang, k1) && IsSameNode(bauteil.kEnde, k2)) ||
          (IsSameNode(bauteil.kAnfang, k2) && IsSameNode(bauteil.kEnde, k1));
+}
+
+// Whether an edge whose ends both go to the same node is what a mullion or transom that
+// ends in this node has beyond it, as under a slanted top.
+bool IsFortsetzung(const CMStrecke& kante, const CMKnoten& knoten, const CMBauteil& bauteil,
+                   const CMAchsen& achsen) {
+  if (!bauteil.IsRahmenteil() || IsSameNode(bauteil.kAnfang, bauteil.kEnde)) return false;
+  if (!IsSameNode(bauteil.kAnfang, knoten) && !IsSameNode(bauteil.kEnde, knoten)) return false;
+  XY a;
+  XY b;
+  XY c;
+  XY d;
+  kante.GetPunkte(a, b);
+  achsen.GetPunkt(bauteil.kAnfang, c);
+  achsen.GetPunkt(bauteil.kEnde, d);
+  return std::fabs(AbstandPunktGerade(c, d, a)) <= lintavo::kUeberlagerung &&
+         std::fabs(AbstandPunktGerade(c, d, b)) <= lintavo::kUeberlagerung;
 }
 
 // --- cutting ------------------------------------------------------------------
@@ -254,8 +269,10 @@ void CMFenster::PfostenUndRiegelAutomatischSetzen(const GEOM2_Polygon& innen,
     achsen_.GetKnoten(a, k1, fangRadius);
     achsen_.GetKnoten(b, k2, fangRadius);
     const bool present = std::any_of(
-        rahmen_.EinzelTeile.begin(), rahmen_.EinzelTeile.end(),
-        [&](const CMBauteil& teil) { return teil.IsRahmenteil() && IsBetween(teil, k1, k2); });
+        rahmen_.EinzelTeile.begin(), rahmen_.EinzelTeile.end(), [&](const CMBauteil& teil) {
+          if (teil.IsRahmenteil() && IsBetween(teil, k1, k2)) return true;
+          return IsSameNode(k1, k2) && IsFortsetzung(segment, k1, teil, achsen_);
+        });
     // A second calculation finds the mullions of the first.
     if (present) continue;
     CMBauteil& bauteil = *AddRahmenEinzelBauteil(k1, k2, pfostenVorlage_);

@@ -29,7 +29,6 @@ std::vector<XY> Ring(const GEOM2_Polygon& polygon) {
   return ring;
 }
 
-// Across a convex contour lines get longer up to some height and shorter from there on.
 bool IstKonvexeKontur(const GEOM2_Polygon& contour) {
   const std::vector<XY> ring = Ring(contour);
   return ring.size() >= 3 && IstKonvex(ring);
@@ -134,33 +133,20 @@ long Lamellenlage::ErsterPlatz() {
   return platz;
 }
 
-// Then there is no place without a slat between two with one.
-bool Lamellenlage::IstLueckenlos() const {
-  return IstKonvexeKontur(contour_);
-}
-
+// A contour is one ring without loops, so that every level line between its lowest and its
+// highest point runs inside it: no place without a slat lies between two with one.
 long Lamellenlage::Anzahl() {
   GEOM2_Achse achse;
-  if (IstLueckenlos()) {
-    const long erster = ErsterPlatz();
-    long ende = Plaetze();
-    while (ende > erster && !Schneide(ende - 1, achse)) --ende;
-    return ende - erster;
-  }
-  long anzahl = 0;
-  for (long platz = 0; platz < Plaetze(); ++platz) anzahl += Schneide(platz, achse) ? 1 : 0;
-  return anzahl;
+  const long erster = ErsterPlatz();
+  long ende = Plaetze();
+  while (ende > erster && !Schneide(ende - 1, achse)) --ende;
+  return ende - erster;
 }
 
 bool Lamellenlage::LegeNummer(long i, CMBauteil& lamelle) {
   if (i < 0 || i >= Plaetze()) return false;
-  long platz = ErsterPlatz();
-  if (IstLueckenlos()) return platz + i < Plaetze() && Lege(platz + i, lamelle);
-  for (; platz < Plaetze(); ++platz) {
-    GEOM2_Achse achse;
-    if (Schneide(platz, achse) && i-- == 0) return Lege(platz, lamelle);
-  }
-  return false;
+  const long platz = ErsterPlatz() + i;
+  return platz < Plaetze() && Lege(platz, lamelle);
 }
 
 GEOM2_Polygon SichtbareLamelle(const CMBauteil& lamelle, const GEOM2_Polygon& contour) {

@@ -35,7 +35,6 @@ class Lamellenlage {
   double Mitte(long platz);
   bool Schneide(long platz, GEOM2_Achse& achse);
   long ErsterPlatz();
-  bool IstLueckenlos() const;
 
   const GEOM2_Polygon& contour_;
   CMBauteil vorlage_;

@@ -123,8 +123,7 @@ class Anschauung {
     return verdeckt == 0 ? Urteil::kSichtbar : verdeckt == 3 ? Urteil::kVerdeckt : Urteil::kUnklar;
   }
 
-  // Whether some part's edge that is to be drawn runs through p and is seen there; unclear
-  // beside a second edge.
+  // Whether some part's edge that is to be drawn runs through p and is seen there.
   Urteil SiehtKante(const XY& p, const XY& richtung, double breite) const;
 
   static constexpr double kNebenher = 0.003;
@@ -172,28 +171,31 @@ void JedeKante(const std::vector<Teil>& teile, F f) {
   }
 }
 
-// Whether looking beside p may look beside another edge too: one that runs nearly along
-// with it but is not the same line, or one that crosses.
-bool IstZuDicht(const Strecke& s, const XY& p, const XY& richtung) {
-  constexpr double kGleicheLinie = 0.001;
-  constexpr double kKreuzung = 0.05;
-  const double abstand = Seitenabstand(s, p, richtung);
-  if (std::isfinite(abstand)) {
-    return abstand > kGleicheLinie && abstand < 2.0 * Anschauung::kNebenher;
-  }
-  return IsPunktAufStrecke(p, s.a, s.b, kKreuzung);
-}
-
 Anschauung::Urteil Anschauung::SiehtKante(const XY& p, const XY& richtung, double breite) const {
   Urteil bestes = Urteil::kVerdeckt;
-  bool zuDicht = false;
   JedeKante(teile_, [&](const Teil& teil, const Strecke& kante) {
-    zuDicht = zuDicht || IstZuDicht(kante, p, richtung);
     if (bestes == Urteil::kSichtbar || !LaeuftDurch(kante, p, richtung)) return;
     const Urteil urteil = Sieht(teil, p, richtung, breite);
     if (urteil != Urteil::kVerdeckt) bestes = urteil;
   });
-  return zuDicht ? Urteil::kUnklar : bestes;
+  return bestes;
+}
+
+// Whether looking beside p may look beside another edge too: one that runs nearly along
+// with it but is not the same line, or one that crosses.
+bool IstZuDicht(const std::vector<Teil>& teile, const XY& p, const XY& richtung) {
+  constexpr double kGleicheLinie = 0.001;
+  constexpr double kKreuzung = 0.05;
+  bool zuDicht = false;
+  JedeKante(teile, [&](const Teil&, const Strecke& s) {
+    const double abstand = Seitenabstand(s, p, richtung);
+    if (std::isfinite(abstand)) {
+      zuDicht = zuDicht || (abstand > kGleicheLinie && abstand < 2.0 * Anschauung::kNebenher);
+    } else {
+      zuDicht = zuDicht || IsPunktAufStrecke(p, s.a, s.b, kKreuzung);
+    }
+  });
+  return zuDicht;
 }
 
 // Along every edge: drawn exactly once where it is seen, else not at all.
@@ -208,6 +210,7 @@ void ErwarteJedeKanteRichtig(const Anschauung& anschauung, const std::vector<Str
     for (int k = 0; k < proben; ++k) {
       const double u = 2.0 * kBreite + (laenge - 4.0 * kBreite) * (k + 0.437) / proben;
       const XY p = kante.Punkt(u);
+      if (IstZuDicht(anschauung.Teile(), p, kante.Richtung())) continue;
       const Urteil urteil = anschauung.SiehtKante(p, kante.Richtung(), kBreite);
       if (urteil == Urteil::kUnklar) continue;
       ++geprueft;
