@@ -89,6 +89,15 @@ TEST(Versatz, ConcaveOutlinesComeOutWithoutLoops) {
   EXPECT_TRUE(GleicherRing(Poly("(3,3) (3,27) (17,27) (17,3)"), Versetzt(l, 3)));
 }
 
+TEST(Versatz, OfTwoEqualPiecesItIsAlwaysTheSame) {
+  // A dumbbell whose bridge vanishes; where it lies must not choose the piece.
+  for (const double x : {0.0, 0.1, 3.7, -1e-6, 12345.678}) {
+    GEOM2_Polygon hantel = Poly("(0,0) (100,0) (100,50) (60,50) (60,10) (40,10) (40,50) (0,50)");
+    hantel.Transformieren(1.0, 0.0, x, 0.0);
+    EXPECT_TRUE(GleicherRing(Rechteck(66 + x, 6, 94 + x, 44), Versetzt(hantel, -6), 1e-6)) << x;
+  }
+}
+
 TEST(Versatz, ThereAndBackIsTheIdentityInEveryDirection) {
   const GEOM2_Polygon haus = Poly("(0,0,1) (800,0,2) (800,500,3) (400,900,4) (0,500,5)");
   for (const double grad : {0.0, 1.0, 33.0, 45.0, 89.0, 89.9, 89.99, 89.999, 90.0, 123.0}) {
