@@ -157,4 +157,21 @@ TEST(AchseClippen, ASecondCutChangesNotASingleBit) {
   EXPECT_GT(geschnitten, 500);
 }
 
+TEST(AchseClippen, NeitherDoesOneThatStartsBesideAnEdge) {
+  // From the start to the edge y = -20 the axis runs beside it at about the tolerance.
+  const GEOM2_Polygon zacken = Poly(
+      "(0,-20) (-20,-20) (40,40) (-65.78,-10) (-20,-20) (30,-10) (89.9989,-20) (40,-20) (-300,-20) "
+      "(-20,-20) (-22.44,-300) (-20,-20) (-20,40) (80,50) (40,60) (69.9989,80) (80,80) (80,291.1)");
+  for (const double v : {1.9e-6, 1.999999999e-6, 2e-6, 2.000000001e-6, 2.1e-6}) {
+    GEOM2_Achse achse;
+    achse.Start = {20.0000003, -20.0 - v};
+    achse.dWinkel = 30.0;
+    achse.dLaenge = 90.0;
+    ASSERT_TRUE(zacken.AchseClippen(achse, 30.0));
+    GEOM2_Achse nochmal = achse;
+    ASSERT_TRUE(zacken.AchseClippen(nochmal, 30.0));
+    EXPECT_EQ(std::memcmp(&achse, &nochmal, sizeof achse), 0) << v;
+  }
+}
+
 }  // namespace

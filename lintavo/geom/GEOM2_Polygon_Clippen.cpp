@@ -169,11 +169,11 @@ bool AufStueckKuerzen(const GEOM2_Polygon& polygon, double d, std::optional<Stre
                       GEOM2_Achse& achse) {
   const double phi = achse.dWinkel * lintavo::kRadiantJeGrad;
   const XY richtung{std::cos(phi), std::sin(phi)};
-  const XY ende = lintavo::Summe(achse.Start, lintavo::Mal(richtung, achse.dLaenge));
   lintavo::Arbeitsspeicher speicher;
   Liste<Streckenstueck> stuecke(&speicher);
   if (achse.dLaenge >= kNullLaenge) {
-    stuecke = lintavo::StreckeTeilen(achse.Start, ende, polygon, kNullLaenge, &speicher);
+    stuecke = lintavo::StreckeTeilen(achse.Start, richtung, achse.dLaenge, polygon, kNullLaenge,
+                                     &speicher);
   }
   const Streckenstueck* innen =
       bei.has_value() ? InnenBei(stuecke, bei->von, bei->bis) : LaengstesInnen(stuecke);

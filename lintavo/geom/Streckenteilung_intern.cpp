@@ -13,9 +13,9 @@ namespace {
 /// The polygon seen from the segment: u along it from its start, v to its left.
 class Sicht {
  public:
-  Sicht(const XY& a, const XY& b, const GEOM2_Polygon& polygon, Speicher speicher)
-      : laenge_(Abstand(a, b)), ecken_(speicher) {
-    const XY richtung = Mal(Differenz(b, a), 1.0 / laenge_);
+  Sicht(const XY& a, const XY& richtung, double laenge, const GEOM2_Polygon& polygon,
+        Speicher speicher)
+      : laenge_(laenge), ecken_(speicher) {
     ecken_.reserve(polygon.GetEcken().size());
     for (const GEOM2_Eckpunkt& ecke : polygon.GetEcken()) {
       const XY p = Differenz(Ort(ecke), a);
@@ -94,12 +94,22 @@ Liste<Streckenstueck> StreckeTeilen(const XY& a, const XY& b, const GEOM2_Polygo
   if (!lintavo::IstBrauchbar(a) || !lintavo::IstBrauchbar(b)) return stuecke;
   const double laenge = Abstand(a, b);
   if (laenge < tol) return stuecke;
+  return StreckeTeilen(a, Mal(Differenz(b, a), 1.0 / laenge), laenge, polygon, tol, speicher);
+}
+
+Liste<Streckenstueck> StreckeTeilen(const XY& a, const XY& richtung, double laenge,
+                                    const GEOM2_Polygon& polygon, double tol, Speicher speicher) {
+  Liste<Streckenstueck> stuecke(speicher);
+  if (!lintavo::IstBrauchbar(a) || !lintavo::IstBrauchbar(Summe(a, Mal(richtung, laenge)))) {
+    return stuecke;
+  }
+  if (laenge < tol) return stuecke;
   if (!IstBrauchbar(polygon)) {
     stuecke.push_back({0.0, laenge, false});
     return stuecke;
   }
 
-  const Sicht sicht(a, b, polygon, speicher);
+  const Sicht sicht(a, richtung, laenge, polygon, speicher);
   double von = 0.0;
   for (const double bis : sicht.Schnitte(tol)) {
     if (bis - von <= tol && bis < laenge) continue;

@@ -21,5 +21,9 @@ struct Streckenstueck {
 /// gives no stretches; a polygon that is no area has nothing inside.
 Liste<Streckenstueck> StreckeTeilen(const XY& a, const XY& b, const GEOM2_Polygon& polygon,
                                     double tol, Speicher speicher);
+/// The same for what starts at a and runs for a length in a direction, a unit vector. What
+/// is near the start then does not depend on where the end is, to the last bit.
+Liste<Streckenstueck> StreckeTeilen(const XY& a, const XY& richtung, double laenge,
+                                    const GEOM2_Polygon& polygon, double tol, Speicher speicher);
 
 }  // namespace lintavo
