@@ -271,10 +271,10 @@ class LINTAVO_API CMFensterSatz {
   long GetAnzahlLamellen() const;
   bool GetLamelle(long nummer, long i, CMBauteil& lamelle) const;
   /// What is seen of slat `i`: the strip of its width across the inner contour with extra
-  /// parts, where that is convex, as for all four shapes; else the slat's own outline. The
-  /// slat itself is sawn straight, so under an arch its own outline leaves a gap or stands
-  /// out.
-  /// False, with an empty outline, when there is no slat `i`.
+  /// parts. The slat itself is sawn straight, so under an arch its own outline leaves a gap
+  /// or stands out. In a contour that is not convex, as corners moved far inwards can make
+  /// it, it is the slat's own outline all the same. False, with an empty outline, when there
+  /// is no slat `i`.
   bool GetLamellenUmriss(long i, GEOM2_Polygon& umriss) const;
 
   /// Appends the glass dimensions: the chain from one side of the inner contour's
