@@ -6,6 +6,7 @@
 #include <iterator>
 #include <limits>
 #include <numeric>
+#include <set>
 
 #include <gtest/gtest.h>
 #include <zlib.h>
@@ -358,15 +359,35 @@ TEST(Komprimiert, ReadsTheSameWindowAsThePlainFile) {
   }
 }
 
-TEST(Komprimiert, DamagedTruncatedAndOversizedStreamsNeverCrash) {
+// A cut stream holds the first lines of its text, as far as they are whole, and nothing
+// that the file does not say.
+TEST(Komprimiert, ACutStreamIsTheBeginningOfItsText) {
+  const Ordner ordner;
+  const std::string text = Lies(BeispielPfad("schraegen.aqz"));
+  std::set<std::string> beginnings;
+  for (std::size_t end = 0; end != std::string::npos; end = text.find('\n', end + 1)) {
+    std::string lines = text.substr(0, end) + '\n';
+    std::replace(lines.begin(), lines.end(), '\n', '#');
+    CFeApi api;
+    api.ReadFromBuffer(static_cast<long>(lines.size()), lines.data());
+    beginnings.insert(Puffer(api));
+  }
+  const std::string whole = Komprimiert(text);
+  for (std::size_t length = 0; length <= whole.size(); ++length) {
+    Schreibe(ordner / "f.cqz", whole.substr(0, length));
+    CFeApi api;
+    api.ReadFromCompressedFile((ordner / "f.cqz").c_str());
+    EXPECT_TRUE(beginnings.contains(Puffer(api))) << length;
+  }
+}
+
+TEST(Komprimiert, DamagedAndOversizedStreamsNeverCrash) {
   const Ordner ordner;
   const std::string whole = Komprimiert(Lies(BeispielPfad("raster_3x3.aqz")));
   CFeApi api;
-  for (std::size_t length = 0; length < whole.size(); length += 7) {
-    Schreibe(ordner / "f.cqz", whole.substr(0, length));
-    api.ReadFromCompressedFile((ordner / "f.cqz").c_str());
+  for (std::size_t i = 0; i < whole.size(); i += 7) {
     std::string damaged = whole;
-    damaged[length] = static_cast<char>(damaged[length] ^ 0x55);
+    damaged[i] = static_cast<char>(damaged[i] ^ 0x55);
     Schreibe(ordner / "f.cqz", damaged);
     api.ReadFromCompressedFile((ordner / "f.cqz").c_str());
     EXPECT_GE(api.GetAnzahlFluegel(), 0);

@@ -12,8 +12,8 @@ namespace lintavo {
 /// What ends a line of the inflated text.
 inline constexpr int kKomprimiertTrenner = '\r';
 
-/// An inflated macro file. Where the stream is damaged the area holds what
-/// could be inflated, then zeroes, and counts whole.
+/// An inflated macro file. Where the stream is damaged or cut it holds what came out
+/// before.
 struct KomprimierterText {
   char Bytes[kMaxKomprimiert] = {};
   long lLaenge = 0;
