@@ -2,6 +2,7 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -108,7 +109,7 @@ TEST(IniRead, AddsASecondFile) {
 }
 
 TEST(IniRead, IsLinearInFileAndLookups) {
-  constexpr int kSections = 2500;
+  constexpr int kSections = 25000;
   constexpr int kKeys = 15;
   std::vector<CString> sections;
   std::vector<CString> keys;
@@ -130,6 +131,11 @@ TEST(IniRead, IsLinearInFileAndLookups) {
     for (const CString& key : keys) found += document.GetString(section, key, value);
   }
   EXPECT_EQ(found, kSections * kKeys);
+  // In falling order too, with whatever stands between.
+  for (auto section = sections.rbegin(); section != sections.rend(); ++section) {
+    found -= document.GetString(*section, keys.front(), value) * kKeys;
+  }
+  EXPECT_EQ(found, 0);
   // Milliseconds when linear; minutes when each lookup starts at the top.
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
@@ -172,6 +178,45 @@ TEST(IniLookup, FindsTheNextOfEqualHeadersInFileOrder) {
   EXPECT_EQ(document.FindSection("A"), 0);
   EXPECT_EQ(Get(document, "B", "x"), "2");
   EXPECT_EQ(document.FindSection("A"), 4);
+}
+
+// Of headers with one name, and whatever was searched before: the first at or behind the
+// end of the section last read, else the first of all.
+TEST(IniLookup, FindsTheSameSectionHoweverOftenItIsAsked) {
+  std::mt19937 dice(4711);
+  const char* const names[] = {"A", "b", "AB", "ä", "Ä", "a", "B", "C]", "missing"};
+  CIniFile document;
+  for (int i = 0; i < 60; ++i) {
+    document.AddLine(dice() % 3 == 0 ? CString("x=1") : CString("[") + names[dice() % 8] + "]");
+  }
+  const std::vector<CString>& lines = document.GetLines();
+  const long count = static_cast<long>(lines.size());
+  const auto first = [&](long from, auto matches) {
+    while (from < count && !matches(lines[static_cast<std::size_t>(from)])) ++from;
+    return from < count ? from : -1;
+  };
+  CString last;
+  long at = -1;
+  long end = -1;
+  for (int i = 0; i < 500; ++i) {
+    const CString name = names[dice() % 9];
+    if (last.CompareNoCase(name) != 0) {
+      const auto isIt = [&](const CString& line) {
+        return line.CompareNoCase("[" + name + "]") == 0;
+      };
+      const long behind = end > 1 ? first(end, isIt) : -1;
+      const long found = behind >= 0 ? behind : first(0, isIt);
+      end = -1;
+      if (found >= 0) last = name;
+      if (found >= 0) at = found;
+      ASSERT_EQ(document.FindSection(name), found) << i;
+    }
+    if (dice() % 2 == 0 || last.CompareNoCase(name) != 0) continue;
+    CString value;
+    document.GetString(name, "none", value);
+    if (end < 0) end = first(at + 1, [](const CString& line) { return line.Left(1) == "["; });
+    if (end < 0) end = count - 1;
+  }
 }
 
 TEST(IniLookup, TriesTheLineBehindTheLastEntryFirst) {

@@ -2,6 +2,7 @@
 // typed values are in CIniFile_Werte.cpp.
 #include "lintavo/ini/CIniFile.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -92,6 +93,7 @@ int CIniFile::Read(const CString& path) {
   if (file == nullptr) return 0;
   const std::size_t linesBefore = m_Lines.size();
   const int sectionsBefore = m_CntSections;
+  ForgetHeaders();
   PieceReader reader(file.get());
   for (std::string_view piece = reader.Next(); !piece.empty(); piece = reader.Next()) {
     AppendPiece(piece);
@@ -133,22 +135,70 @@ void CIniFile::WriteTrace() const {
 
 void CIniFile::AddLine(CString line) {
   m_Lines.push_back(std::move(line));
+  ForgetHeaders();
 }
 
-long CIniFile::FindHeader(std::string_view name, long from, long to) const {
-  for (long i = from; i < to; ++i) {
-    if (IsHeaderOf(Line(i), name)) return i;
+void CIniFile::ForgetHeaders() {
+  m_Headers.clear();
+  m_IsIndexed = false;
+  m_LookedAt = 0;
+}
+
+std::string_view CIniFile::HeaderName(int i) const {
+  const std::string_view line = Line(i);
+  return line.substr(1, line.size() - 2);
+}
+
+void CIniFile::IndexHeaders() {
+  std::vector<int> headers;
+  for (int i = 0; i < LineCount(); ++i) {
+    const std::string_view line = Line(i);
+    if (line.size() >= 2 && IsHeader(line) && line.back() == ']') headers.push_back(i);
   }
+  std::sort(headers.begin(), headers.end(), [this](int a, int b) {
+    const int order = lintavo::CompareNoCase(HeaderName(a), HeaderName(b));
+    return order != 0 ? order < 0 : a < b;
+  });
+  m_Headers = std::move(headers);
+  m_IsIndexed = true;
+}
+
+long CIniFile::LookForHeader(std::string_view name, long from, long to) {
+  for (long i = from; i < to; ++i) {
+    if (!IsHeaderOf(Line(i), name)) continue;
+    m_LookedAt += i - from;
+    return i;
+  }
+  m_LookedAt += std::max(0L, to - from);
   return -1;
+}
+
+// The first header of this name at or behind a line, else the first in the document; -1
+// when there is none. Sections in file order are met at once by looking through the lines.
+// In any other order that would take the square of the file, so the headers are sorted
+// once it has gone through the document several times.
+long CIniFile::FindHeader(std::string_view name, long from) {
+  constexpr long kPassesBeforeIndex = 8;
+  if (!m_IsIndexed && m_LookedAt <= kPassesBeforeIndex * LineCount()) {
+    const long line = LookForHeader(name, from, LineCount());
+    return line >= 0 ? line : LookForHeader(name, 0, std::min(from, LineCount()));
+  }
+  if (!m_IsIndexed) IndexHeaders();
+  const auto first = std::partition_point(m_Headers.begin(), m_Headers.end(), [&](int i) {
+    return lintavo::CompareNoCase(HeaderName(i), name) < 0;
+  });
+  const auto end = std::partition_point(
+      first, m_Headers.end(), [&](int i) { return lintavo::EqualNoCase(HeaderName(i), name); });
+  if (first == end) return -1;
+  const auto behind = std::lower_bound(first, end, from);
+  return behind != end ? *behind : *first;
 }
 
 long CIniFile::FindSection(const CString& name) {
   if (lintavo::EqualNoCase(name.View(), m_LastSectionName.View())) return m_LastSectionLine;
   // Forward from the end of the last section, so that sections read in file
   // order are met at once; what lies before it only afterwards.
-  const long middle = m_SectionEndLine > 1 ? m_SectionEndLine : 0;
-  long line = FindHeader(name.View(), middle, LineCount());
-  if (line < 0) line = FindHeader(name.View(), 0, middle);
+  const long line = FindHeader(name.View(), m_SectionEndLine > 1 ? m_SectionEndLine : 0);
   m_SectionEndLine = -1;
   m_LastEntryLine = -1;
   if (line >= 0) {
@@ -220,6 +270,7 @@ int CIniFile::GetString(const CString& section, const CString& key, CString& val
 int CIniFile::SetString(CString& section, const CString& key, const CString& value) {
   const long start = FindSection(section) + 1;
   const CString line = key + "=" + value;
+  ForgetHeaders();
   long place = 0;
   if (start < 1) {
     section.TrimLeft();

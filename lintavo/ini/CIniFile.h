@@ -114,7 +114,11 @@ class LINTAVO_API CIniFile {
 
   void AppendPiece(std::string_view piece);
 
-  long FindHeader(std::string_view name, long from, long to) const;
+  long FindHeader(std::string_view name, long from);
+  long LookForHeader(std::string_view name, long from, long to);
+  void IndexHeaders();
+  std::string_view HeaderName(int i) const;
+  void ForgetHeaders();
   bool FindNextHeader(long from);
   long FindSection(long from);
   long FindEndOfSection(long from);
@@ -128,4 +132,7 @@ class LINTAVO_API CIniFile {
   int m_SectionEndLine = -1;     // header that ends the current section; -1 = not known
   int m_LastEntryLine = 0;       // entry last found by FindEntry; -1 = none
   int m_CntSections = 0;         // headers met by Read
+  std::vector<int> m_Headers;    // lines of the headers by name and place, once indexed
+  bool m_IsIndexed = false;
+  long m_LookedAt = 0;  // lines that searches for headers went through since the last change
 };
