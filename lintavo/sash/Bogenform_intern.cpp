@@ -119,30 +119,35 @@ struct Schnitt {
   XY punkt;
 };
 
-// The first edge from `ab` on that the vertical line at x crosses. The edge's
-// start is taken as origin, as the intersection is only as exact as the
-// coordinates are small.
-bool FindeSchnitt(const GEOM2_Polygon& polygon, double x, int ab, Schnitt& schnitt) {
-  for (int i = ab; i < polygon.GetAnzahl(); ++i) {
-    XY a;
-    XY b;
-    polygon.GetKante(i, a, b);
-    const XY ende{b.x - a.x, b.y - a.y};
-    const XY unten{x - a.x, 0.0};
-    const XY oben{x - a.x, 1.0};
-    XY p;
-    if (SchnittpunktGeraden({}, ende, unten, oben, kNullLaenge, p) != 1) continue;
-    if (!IsPunktAufStrecke(p, {}, ende, kNullLaenge)) continue;
-    schnitt = {i, {x, a.y + p.y}};
-    return true;
-  }
-  return false;
-}
-
-bool IsAufKante(const GEOM2_Polygon& polygon, int i, const XY& p) {
+// Where the vertical line at x crosses an edge. The edge's start is taken as origin, as
+// the intersection is only as exact as the coordinates are small.
+bool SchneideKante(const GEOM2_Polygon& polygon, double x, int i, Schnitt& schnitt) {
   XY a;
   XY b;
-  return polygon.GetKante(i, a, b) && IsPunktAufStrecke(p, a, b, kNullLaenge);
+  if (!polygon.GetKante(i, a, b)) return false;
+  const XY ende{b.x - a.x, b.y - a.y};
+  const XY unten{x - a.x, 0.0};
+  const XY oben{x - a.x, 1.0};
+  XY p;
+  if (SchnittpunktGeraden({}, ende, unten, oben, kNullLaenge, p) != 1) return false;
+  if (!IsPunktAufStrecke(p, {}, ende, kNullLaenge)) return false;
+  schnitt = {i, {x, a.y + p.y}};
+  return true;
+}
+
+// The first edge from `ab` on that the vertical line at x crosses.
+bool FindeSchnitt(const GEOM2_Polygon& polygon, double x, int ab, Schnitt& schnitt) {
+  int i = ab;
+  while (i < polygon.GetAnzahl() && !SchneideKante(polygon, x, i, schnitt)) ++i;
+  return i < polygon.GetAnzahl();
+}
+
+// Whether the vertical line at x crosses an edge that leads from left to right.
+bool SchneidetNachRechts(const GEOM2_Polygon& polygon, double x, int i) {
+  Schnitt schnitt;
+  XY a;
+  XY b;
+  return SchneideKante(polygon, x, i, schnitt) && polygon.GetKante(i, a, b) && a.x < b.x;
 }
 
 void AddEcken(const GEOM2_Polygon& von, int erste, int letzte, GEOM2_Polygon& polygon) {
@@ -153,7 +158,8 @@ void AddEcken(const GEOM2_Polygon& von, int erste, int letzte, GEOM2_Polygon& po
 // left line to the right one, up, and back along the upper edge. Each search
 // goes on from the edge of the crossing before, so that a flat top, which both
 // lines cross, is not lost. Only after the lower right crossing the search
-// moves on, past the neighbour too when the crossing is their common vertex.
+// moves on, past the neighbour too when the crossing is their common vertex; but
+// a neighbour that leads back, at the end of the span, is the upper edge.
 void SchneideStreifen(const GEOM2_Polygon& voll, double links, double rechts,
                       GEOM2_Polygon& outline) {
   outline.Reservieren(kGroessteEckenzahl);
@@ -169,7 +175,7 @@ void SchneideStreifen(const GEOM2_Polygon& voll, double links, double rechts,
     AddEcken(voll, folge, schnitt.kante, outline);
     outline.AddPunkt(schnitt.punkt.x, schnitt.punkt.y);
     suche = schnitt.kante + 1;
-    if (IsAufKante(voll, suche, schnitt.punkt)) ++suche;
+    if (SchneidetNachRechts(voll, rechts, suche)) ++suche;
     folge = suche;
   }
   if (FindeSchnitt(voll, rechts, suche, schnitt)) {

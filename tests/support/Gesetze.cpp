@@ -23,6 +23,19 @@ int AnzahlMeldungen() {
   return testing::UnitTest::GetInstance()->current_test_info()->result()->total_part_count();
 }
 
+void JederSeed(const std::function<void(std::uint64_t)>& versuch, std::uint64_t anzahl) {
+  const std::uint64_t beginn = Umgebung("LINTAVO_ZUFALLSBEGINN", kErsterSeed);
+  const std::uint64_t ende = beginn + Umgebung("LINTAVO_ZUFALLSFENSTER", anzahl);
+  int verstoesze = 0;
+  for (std::uint64_t seed = beginn; seed < ende && verstoesze < kGenugVerstoesze; ++seed) {
+    const int meldungen = AnzahlMeldungen();
+    versuch(seed);
+    if (AnzahlMeldungen() == meldungen) continue;
+    ++verstoesze;
+    ADD_FAILURE() << "broken by seed " << seed;
+  }
+}
+
 CIniFile Dokument(const std::string& text) {
   CIniFile document;
   std::istringstream lines(text);
@@ -54,18 +67,24 @@ CMFenster Berechnet(const Fensterentwurf& entwurf) {
 }
 
 void JedesFenster(const Gesetz& gesetz, std::uint64_t anzahl) {
-  const std::uint64_t beginn = Umgebung("LINTAVO_ZUFALLSBEGINN", kErsterSeed);
-  const std::uint64_t ende = beginn + Umgebung("LINTAVO_ZUFALLSFENSTER", anzahl);
-  int verstoesze = 0;
-  for (std::uint64_t seed = beginn; seed < ende && verstoesze < kGenugVerstoesze; ++seed) {
-    const int meldungen = AnzahlMeldungen();
-    const Fensterentwurf entwurf = Zufallsentwurf(seed);
-    CMFenster fenster = Berechnet(entwurf);
-    if (AnzahlMeldungen() == meldungen) gesetz(entwurf, fenster);
-    if (AnzahlMeldungen() == meldungen) continue;
-    ++verstoesze;
-    ADD_FAILURE() << "broken by the window of seed " << seed << "\n" << MakroText(entwurf);
-  }
+  JederSeed(
+      [&](std::uint64_t seed) {
+        const int meldungen = AnzahlMeldungen();
+        const Fensterentwurf entwurf = Zufallsentwurf(seed);
+        CMFenster fenster = Berechnet(entwurf);
+        if (AnzahlMeldungen() == meldungen) gesetz(entwurf, fenster);
+        if (AnzahlMeldungen() != meldungen) ADD_FAILURE() << MakroText(entwurf);
+      },
+      anzahl);
+}
+
+void JederWurf(const std::function<void(Wuerfel&)>& gesetz, std::uint64_t anzahl) {
+  JederSeed(
+      [&](std::uint64_t seed) {
+        Wuerfel wuerfel(seed);
+        gesetz(wuerfel);
+      },
+      anzahl);
 }
 
 std::vector<GEOM2_Polygon> UmrisseVon(const std::vector<CMBauteil>& teile) {

@@ -14,6 +14,7 @@
 #include "lintavo/model/CMFenster.h"
 
 #include "tests/support/Fensterentwurf.h"
+#include "tests/support/Wuerfel.h"
 
 namespace lintavo::test {
 
@@ -23,6 +24,9 @@ using Gesetz = std::function<void(const Fensterentwurf&, CMFenster&)>;
 
 /// Tries a law on `anzahl` calculated windows, unless the environment asks for more.
 void JedesFenster(const Gesetz& gesetz, std::uint64_t anzahl = 300);
+
+/// Tries a law on what it throws with the dice itself, for so many seeds.
+void JederWurf(const std::function<void(Wuerfel&)>& gesetz, std::uint64_t anzahl = 300);
 
 /// Reads a description, and calculates it too. A failure fails the running test.
 CMFenster Gelesen(const Fensterentwurf& entwurf);
