@@ -1,4 +1,7 @@
 // Mullions and transoms: set by themselves, cut to the frame and each other.
+#include <algorithm>
+#include <array>
+
 #include <gtest/gtest.h>
 
 #include "lintavo/model/CMFenster.h"
@@ -119,6 +122,37 @@ TEST(Pfosten, OneThatGoesOnUnderASlantedTopIsFoundAgain) {
   fenster.Invalidiere(true);
   ASSERT_TRUE(fenster.Berechne(true));
   EXPECT_EQ(fenster.GetRahmenPtr()->EinzelTeile.size(), 2u);
+}
+
+// Two sashes above each other that share a part of their sides only, and two above one.
+TEST(Pfosten, SashesThatShareAPartOfASideGetOneAlongIt) {
+  for (const auto& [unten, oben, von, bis] : {std::array{0, 2, 1, 3}, std::array{1, 3, 0, 2},
+                                              std::array{0, 3, 1, 2}, std::array{1, 2, 0, 3}}) {
+    CMFenster fenster = Raster(3, 2, 50.0, 100.0);
+    while (fenster.GetAnzahlFluegel() > 0) fenster.DeleteFluegel(0);
+    fenster.GetRahmenPtr()->SetRahmenDefaults(7.0, 6.8, 0.0, 1, 2);
+    fenster.GetPfostenVorlage() = Vorlage();
+    fenster.AddFluegel(eFormRechteck, 0, CMKnoten(unten, 0), CMKnoten(oben, 1));
+    fenster.AddFluegel(eFormRechteck, 0, CMKnoten(von, 1), CMKnoten(bis, 2));
+    ASSERT_TRUE(fenster.Berechne(true));
+    ASSERT_EQ(fenster.GetRahmenPtr()->EinzelTeile.size(), 1u);
+    // From left to right, between the frame parts on both sides of the narrow place.
+    ErwarteAchse(fenster, 0, {50.0 * std::max(unten, von) + 7.0, 100.0},
+                 {50.0 * std::min(oben, bis) - 7.0, 100.0});
+  }
+  CMFenster tuerme = Raster(5, 2, 50.0, 100.0);
+  while (tuerme.GetAnzahlFluegel() > 0) tuerme.DeleteFluegel(0);
+  tuerme.GetRahmenPtr()->SetRahmenDefaults(7.0, 6.8, 0.0, 1, 2);
+  tuerme.GetPfostenVorlage() = Vorlage();
+  tuerme.AddFluegel(eFormRechteck, 0, CMKnoten(0, 0), CMKnoten(5, 1));
+  tuerme.AddFluegel(eFormRechteck, 0, CMKnoten(0, 1), CMKnoten(2, 2));
+  tuerme.AddFluegel(eFormRechteck, 0, CMKnoten(3, 1), CMKnoten(4, 2));
+  for (int run = 0; run < 2; ++run) {
+    ASSERT_TRUE(tuerme.Berechne(true));
+    ASSERT_EQ(tuerme.GetRahmenPtr()->EinzelTeile.size(), 2u);
+    ErwarteAchse(tuerme, 0, {7.0, 100.0}, {93.0, 100.0});
+    ErwarteAchse(tuerme, 1, {157.0, 100.0}, {193.0, 100.0});
+  }
 }
 
 TEST(Pfosten, AGroupOutsideTheFrameGetsNone) {

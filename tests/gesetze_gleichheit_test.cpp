@@ -59,6 +59,31 @@ TEST(Gesetze, CalculatingAgainChangesNothing) {
   });
 }
 
+// Whatever lies on what: members are piled up, cross, nest and have no length; and others
+// are set by themselves along what they leave.
+TEST(Gesetze, MembersInAnyPileRestAfterOneCalculation) {
+  JedesFenster([](const Fensterentwurf& entwurf, CMFenster& fenster) {
+    Wuerfel wuerfel(entwurf.seed);
+    const auto knoten = [&] {
+      return CMKnoten{wuerfel.Zahl(0, static_cast<int>(entwurf.spalten.size())),
+                      wuerfel.Zahl(0, static_cast<int>(entwurf.zeilen.size()))};
+    };
+    for (int i = wuerfel.Zahl(1, 12); i > 0; --i) {
+      CMBauteil vorlage;
+      vorlage.dBreite = wuerfel.Laenge(0.5, 15.0);
+      const CMKnoten von = knoten();
+      const CMKnoten bis = wuerfel.Mit(70) ? CMKnoten(knoten().J(), von.K()) : knoten();
+      fenster.AddRahmenEinzelBauteil(von, bis, vorlage);
+    }
+    const bool automatisch = wuerfel.Mit(50);
+    // Sashes may be left no room; that too is to be the same again.
+    const bool gut = fenster.Berechne(automatisch);
+    const std::vector<GEOM2_Polygon> vorher = Umrisse(fenster);
+    EXPECT_EQ(fenster.Berechne(automatisch), gut);
+    ErwarteGleich(vorher, Umrisse(fenster), 0.0, "outline");
+  });
+}
+
 CMFenster Gelesen(const std::vector<std::string>& zeilen) {
   CIniFile document;
   for (const std::string& zeile : zeilen) document.AddLine(zeile);

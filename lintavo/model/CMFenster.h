@@ -160,16 +160,24 @@ class LINTAVO_API CMFenster {
   // --- calculation -----------------------------------------------------------
 
   /// Derives everything from the stored description: axis distances, frame
-  /// outline and parts, mullions and transoms, sashes, bars. On request it sets
-  /// mullions and transoms along the sashes' common edges by itself. False on
-  /// an error, which is kept; the window then holds what the completed steps
-  /// wrote.
+  /// outline and parts, mullions and transoms, sashes, bars. Mullions and transoms
+  /// with two nodes are laid between these each time before they are cut, so that
+  /// calculating again gives the same. On request it sets others along the sashes'
+  /// common edges by itself, and lays those whose nodes are nearest to the ends of such
+  /// an edge along it. False on an error, which is kept; the window then holds what
+  /// the completed steps wrote.
   bool Berechne(bool bPfostenRiegelAutomatisch);
   /// One outline per sash, in sash order. `dExtrem` is raised to the highest y
   /// of all outlines.
   void GetFluegelGrundformen(std::vector<GEOM2_Polygon>& grundformen, double& dExtrem);
   /// Lets arched sashes fit their rise to the dimensions; true when one changed.
   bool FluegelStichAnpassung(std::vector<GEOM2_Polygon>& grundformen);
+  /// Sets mullions and transoms along the lines between the sashes: edges that do not run
+  /// along the frame with all of their length, those that are collinear and touch as one,
+  /// in the order of the first edge of each. A new one runs from the lower to the higher
+  /// end, of a level line from left to right, between the nodes nearest to its ends; where
+  /// both go to one node it has the template's axis. A line that has members already gets
+  /// them where they leave it free.
   void PfostenUndRiegelAutomatischSetzen(const GEOM2_Polygon& innen,
                                          const std::vector<GEOM2_Polygon>& grundformen);
   void PfostenUndRiegelVerschneiden(const GEOM2_Polygon& innen);
@@ -323,6 +331,7 @@ class LINTAVO_API CMFenster {
   void Rechne(bool bPfostenRiegelAutomatisch);
   void RahmenUmrissBilden(const std::vector<GEOM2_Polygon>& grundformen);
   void RahmenBauen(bool bPfostenRiegelAutomatisch, const std::vector<GEOM2_Polygon>& grundformen);
+  void PfostenUndRiegelLegen();
   void FluegelBauen(const std::vector<GEOM2_Polygon>& grundformen);
   void AussenTeilAnschliessen(CMBauteil& teil, const GEOM2_Polygon& aussen) const;
   bool VerbindungBilden(const CMBauteil& teil, const GEOM2_Polygon& aussen,

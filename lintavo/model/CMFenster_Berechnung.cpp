@@ -139,6 +139,7 @@ void CMFenster::RahmenBauen(bool bPfostenRiegelAutomatisch,
   rahmen_.ErzeugeRahmenBauteile();
   GEOM2_Polygon innen;
   if (rahmen_.ErzeugeRahmenInnenPolygon(innen)) {
+    PfostenUndRiegelLegen();
     if (bPfostenRiegelAutomatisch) PfostenUndRiegelAutomatischSetzen(innen, grundformen);
     PfostenUndRiegelVerschneiden(innen);
   }
