@@ -169,6 +169,38 @@ TEST(Makrodatei, TheParameterFormStandsBesideTheFile) {
   EXPECT_FALSE(fenster.SaveToFile(""));
 }
 
+// No text of a window, whatever it holds and however long it is, brings lines of its own
+// into the file or into its parameter form.
+TEST(Makrodatei, NoTextBringsLinesOfItsOwn) {
+  const Ordner ordner;
+  const std::string lines = "[Achsen]\nX1=5\r[Masz1]\r\nName=B\nLaenge=7,1\nRichtung=1";
+  for (const std::string& text :
+       {"N\r\n" + lines, std::string("N\0\n", 3) + lines, std::string(250, 'x') + "[Achsen]",
+        std::string(255, 'x') + "X1=5", "x" + std::string(249, '\xC3') + "[Achsen]"}) {
+    CMFenster harmless = Beispiel("zweifluegelig_mit_pfosten.aqz");
+    CMFenster fenster = harmless;
+    fenster.SetTypName(std::string_view(text));
+    fenster.SetName(std::string_view(text));
+    fenster.GetZusatzMaszPtr(0)->strName = std::string_view(text);
+    fenster.GetFluegelPtr(0)->SetName(std::string_view(text));
+    ASSERT_TRUE(harmless.SaveToFile(true, (ordner / "harmlos.aqz").c_str()));
+    ASSERT_TRUE(fenster.SaveToFile(true, (ordner / "fenster.aqz").c_str()));
+    for (const char* name : {".aqz", ".txt"}) {
+      CIniFile written;
+      CIniFile expected;
+      ASSERT_TRUE(written.Read((ordner / (std::string("fenster") + name)).c_str()));
+      ASSERT_TRUE(expected.Read((ordner / (std::string("harmlos") + name)).c_str()));
+      EXPECT_EQ(written.GetLines().size(), expected.GetLines().size()) << text;
+      EXPECT_EQ(written.GetCntSections(), expected.GetCntSections()) << text;
+    }
+    CMFenster again;
+    ASSERT_TRUE(again.ReadFromFile((ordner / "fenster.aqz").c_str()));
+    EXPECT_EQ(again.GetName().Left(1), text.substr(0, 1).c_str());
+    ASSERT_TRUE(again.Berechne(false));
+    EXPECT_EQ(Umrisse(again).size(), Umrisse(harmless).size());
+  }
+}
+
 TEST(Makrodatei, SavingDropsUnusedAxesAndBringsTheFirstUsedOneToZero) {
   CMFenster fenster = Raster(4, 2, 50.0, 60.0);
   while (fenster.GetAnzahlFluegel() > 0) fenster.DeleteFluegel(0);

@@ -34,14 +34,33 @@ bool IsEntryOf(std::string_view line, std::string_view key) {
          lintavo::StartsWithNoCase(line, key);
 }
 
+// A text as part of a line: what would end the line, or the text in it, becomes a blank.
+CString OneLine(const CString& text) {
+  std::string line(text.View());
+  std::replace_if(
+      line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r' || c == '\0'; }, ' ');
+  return line;
+}
+
+bool IsInsideCharacter(char c) {
+  return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
+}
+
+// As many bytes of a line as Read takes in one piece. Bytes that are no UTF-8 are cut
+// where they have to be.
+std::size_t PieceLength(std::string_view line) {
+  constexpr std::size_t kCharacterMax = 4;
+  std::size_t length = std::min(line.size(), lintavo::kMaxZeile);
+  if (length == line.size()) return length;
+  while (length + kCharacterMax > lintavo::kMaxZeile && IsInsideCharacter(line[length])) --length;
+  return length;
+}
+
 // Reads a file in blocks and hands it out in pieces: up to and with a line
 // feed, at most kMaxZeile bytes, the rest at the end of the file.
 class PieceReader {
  public:
-  explicit PieceReader(std::FILE* file) : file_(file) {
-    // Blocks are read straight into the block below.
-    std::setvbuf(file, nullptr, _IONBF, 0);
-  }
+  explicit PieceReader(std::FILE* file) : file_(file) {}
 
   // The next piece, valid until the next call; empty at the end of the file.
   std::string_view Next() {
@@ -135,6 +154,14 @@ void CIniFile::WriteTrace() const {
 
 void CIniFile::AddLine(CString line) {
   m_Lines.push_back(std::move(line));
+  ForgetHeaders();
+}
+
+void CIniFile::CutLines() {
+  for (CString& line : m_Lines) {
+    const std::size_t length = PieceLength(line.View());
+    if (length < line.View().size()) line = line.Left(static_cast<int>(length));
+  }
   ForgetHeaders();
 }
 
@@ -268,8 +295,10 @@ int CIniFile::GetString(const CString& section, const CString& key, CString& val
 }
 
 int CIniFile::SetString(CString& section, const CString& key, const CString& value) {
+  section = OneLine(section);
+  const CString name = OneLine(key);
+  const CString line = name + "=" + OneLine(value);
   const long start = FindSection(section) + 1;
-  const CString line = key + "=" + value;
   ForgetHeaders();
   long place = 0;
   if (start < 1) {
@@ -280,7 +309,7 @@ int CIniFile::SetString(CString& section, const CString& key, const CString& val
     // The search stops at the new header itself.
     place = FindEndOfSection(LineCount() - 1) + 1;
   } else {
-    const long known = FindEntryPos(key.View(), start, FindEndOfSection(start));
+    const long known = FindEntryPos(name.View(), start, FindEndOfSection(start));
     if (known >= 0) {
       m_Lines[static_cast<std::size_t>(known)] = line;
       return 1;

@@ -85,7 +85,8 @@ class LINTAVO_API CIniFile {
   /// Replaces the value of a key or adds the entry: directly behind the header
   /// of a new section at the end of the document, else at the end of its
   /// section. Always 1. When the section is new, the caller's text of it is
-  /// trimmed at both ends.
+  /// trimmed at both ends. What ends a line of a file (line feed, carriage return, zero
+  /// byte) becomes a blank in all three, so that no value brings lines of its own.
   ///
   /// Meant for filling a fresh document in the order of the file: the entries
   /// last added to a section are not found, and so added twice or read as
@@ -100,6 +101,10 @@ class LINTAVO_API CIniFile {
   int SetLong(CString& section, const CString& key, long v);
   int SetBool(CString& section, const CString& key, bool v);
   int SetDoubles(CString& section, const CString& key, long n, const double* v);
+
+  /// Cuts every line to the 255 bytes that Read takes in one piece, behind a whole UTF-8
+  /// character: the rest would be read as a line of its own, a header perhaps.
+  void CutLines();
 
   /// Appends a line as it stands, for documents that come from a buffer:
   /// neither trimmed nor cut, and a header among them is not counted.

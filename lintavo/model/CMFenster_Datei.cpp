@@ -222,6 +222,7 @@ bool CMFenster::SaveToFile(bool withParameterForm, const CString& path) {
   AchsRasterOptimieren();
   CIniFile document;
   SaveToBuffer(document);
+  document.CutLines();
   if (!document.Write(path)) return false;
   const CString formPath = FormularPfad(path);
   if (!withParameterForm || formPath.IsEmpty()) return true;
@@ -232,6 +233,7 @@ bool CMFenster::SaveParameterFormular(const CString& path) const {
   if (path.IsEmpty()) return false;
   CIniFile form;
   SaveParameterBlankoFormularToBuffer(form);
+  form.CutLines();
   return form.Write(path) != 0;
 }
 

@@ -21,14 +21,6 @@ CMException Meldung(StringId id, const CString& arg = CString()) {
   return CMException(static_cast<int>(id), arg);
 }
 
-// A text as the value of an entry.
-CString EineZeile(const CString& text) {
-  std::string zeile(text.View());
-  std::replace_if(
-      zeile.begin(), zeile.end(), [](char c) { return c == '\n' || c == '\r' || c == '\0'; }, ' ');
-  return zeile;
-}
-
 // "Too many" is what the template has more of, on purpose: hosts tell by these
 // numbers which way the values went wrong.
 void PruefeAnzahl(const CMFensterSatz& vorher, const CMFensterSatz& nachher, StringId zuViele,
@@ -131,7 +123,8 @@ bool CMFensterPosition::SaveToFile(const CString& path) {
   CIniFile document;
   fenster_.SaveToBuffer(document);
   CString section = Text(StringId::Allgemeines);
-  document.SetString(section, Text(StringId::Text), EineZeile(texte_.front()));
+  document.SetString(section, Text(StringId::Text), texte_.front());
+  document.CutLines();
   if (!path.IsEmpty() && document.Write(path)) return true;
   CMException fehler = Meldung(StringId::MeldungDateiNichtGespeichert, path);
   fehlerText_ = std::move(fehler.strText);
