@@ -16,7 +16,8 @@ namespace lintavo {
 /// of the old or all of the new. It keeps its permissions, and its owner and
 /// group where the system allows that; other hard links to it keep the old
 /// content. A link is followed to the file that it leads to. After a failure
-/// nothing new is left in the folder.
+/// nothing new is left in the folder; on POSIX systems signals that ask the program to end
+/// (HUP, INT, QUIT, TERM) reach the calling thread only when the file is in its place.
 ///
 /// Written in place, so that a failure can lose the old content, is only what
 /// nothing can be put beside or in the place of: devices, pipes, and files that

@@ -1,5 +1,6 @@
 // Saving on POSIX systems.
 #include <cerrno>
+#include <csignal>
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
@@ -40,6 +41,24 @@ constexpr int kMaxNames = 16;
 constexpr mode_t WithoutGroup(mode_t mode) {
   return (mode & ~static_cast<mode_t>(S_IRWXG)) | ((mode & S_IRWXO) << 3);
 }
+
+/// While it lives, what a user or a system ends a program with waits for this thread, so
+/// that it leaves no file that is half its own. A program of one thread ends right after.
+class HeldSignals {
+ public:
+  HeldSignals() {
+    sigset_t held;
+    ::sigemptyset(&held);
+    for (const int number : {SIGHUP, SIGINT, SIGQUIT, SIGTERM}) ::sigaddset(&held, number);
+    ::pthread_sigmask(SIG_BLOCK, &held, &before_);
+  }
+  HeldSignals(const HeldSignals&) = delete;
+  HeldSignals& operator=(const HeldSignals&) = delete;
+  ~HeldSignals() { ::pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+
+ private:
+  sigset_t before_{};
+};
 
 enum class Outcome { kSaved, kFailed, kImpossible };
 
@@ -168,6 +187,7 @@ fs::path BehindLinks(fs::path path) {
 
 // Null when nothing is there yet.
 Outcome SaveBeside(const fs::path& target, const Status* old, std::string_view bytes) {
+  const HeldSignals held;
   Beside beside(target, old != nullptr ? kNobodyElse : kNewFile);
   if (!beside.file.IsOpen()) return OutcomeOf(errno);
   if (old != nullptr && !beside.file.Resemble(*old)) return Outcome::kImpossible;
