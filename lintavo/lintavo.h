@@ -29,6 +29,7 @@
 #include "lintavo/platform/CString.h"
 #include "lintavo/platform/Export.h"
 #include "lintavo/platform/LogFont.h"
+#include "lintavo/platform/ReadFile.h"
 #include "lintavo/platform/SaveFile.h"
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/CMBeschlag.h"

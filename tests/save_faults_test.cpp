@@ -1,4 +1,5 @@
 // Real faults of POSIX systems: full disks, rights, links, devices, deep trees.
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -6,13 +7,16 @@
 #include <string>
 #include <thread>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "lintavo/api/CFeApi.h"
 #include "lintavo/ini/CIniFile.h"
+#include "lintavo/platform/ReadFile.h"
 #include "lintavo/platform/SaveFile.h"
 
 #include "support/Beispiele.h"
@@ -195,6 +199,48 @@ TEST(SaveFaults, DevicesAndPipesAreWrittenInPlace) {
   reader.join();
   EXPECT_EQ(received, kNew);
   EXPECT_TRUE(fs::is_fifo(pipe));
+}
+
+// Whatever ends the program while it saves: the file is whole, and nothing lies beside it.
+TEST(SaveFaults, SignalsWaitForTheFile) {
+  for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+    const Ordner folder;
+    const pid_t child = ::fork();
+    if (child == 0) {
+      std::signal(number, SIG_DFL);
+      SaveFile(folder / "a.ini", std::string(std::size_t{64} << 20, 'n'));
+      ::pause();
+    }
+    while (CountEntries(folder) == 0) std::this_thread::yield();
+    ::kill(child, number);
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == number);
+    EXPECT_EQ(CountEntries(folder), 1);
+    EXPECT_EQ(fs::file_size(folder / "a.ini"), std::size_t{64} << 20);
+  }
+}
+
+TEST(ReadFaults, APipeIsReadFromItsWriterAndNotWaitedForWithoutOne) {
+  const Ordner folder;
+  const std::string pipe = folder / "rohr";
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  CIniFile document;
+  std::string bytes;
+  EXPECT_EQ(document.Read(pipe), 0);
+  EXPECT_FALSE(ReadWholeFile(pipe, bytes));
+  EXPECT_EQ(CFeApi().ReadFromCompressedFile(pipe.c_str()), 0);
+  // One that takes its time.
+  const int writer = ::open(pipe.c_str(), O_RDWR);
+  std::thread slow([&] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    Put(pipe, "[A]\nx=1\n");
+    ::close(writer);
+  });
+  EXPECT_EQ(document.Read(pipe), 1);
+  slow.join();
+  EXPECT_EQ(document.GetLines().size(), 2U);
+  EXPECT_EQ(document.Read(pipe), 0);
 }
 
 #ifdef __linux__

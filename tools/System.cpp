@@ -8,6 +8,7 @@
 #include <memory>
 #include <system_error>
 
+#include "lintavo/platform/ReadFile.h"
 #include "lintavo/platform/SaveFile.h"
 
 #include "Errors.h"
@@ -24,6 +25,8 @@
 #include <io.h>
 #include <windows.h>
 #else
+#include <csignal>
+
 #include <sys/ioctl.h>
 #include <unistd.h>
 #endif
@@ -36,16 +39,13 @@ namespace fs = std::filesystem;
 // As much as the library itself reads.
 constexpr std::size_t kFileMax = std::size_t{64} << 20;
 
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using FilePtr = std::unique_ptr<std::FILE, CloseFile>;
-
 #ifdef _WIN32
 
 HANDLE HandleOf(Stream stream) {
   return ::GetStdHandle(stream == Stream::kOut ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE);
 }
+
+class HeldSignals {};
 
 // Line ends are part of the bytes.
 void UseBytes(std::FILE* file) {
@@ -59,6 +59,22 @@ std::string TemporaryPath() {
 }
 
 #else
+
+class HeldSignals {
+ public:
+  HeldSignals() {
+    sigset_t held;
+    ::sigemptyset(&held);
+    for (const int number : {SIGHUP, SIGINT, SIGQUIT, SIGTERM}) ::sigaddset(&held, number);
+    ::pthread_sigmask(SIG_BLOCK, &held, &before_);
+  }
+  HeldSignals(const HeldSignals&) = delete;
+  HeldSignals& operator=(const HeldSignals&) = delete;
+  ~HeldSignals() { ::pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+
+ private:
+  sigset_t before_{};
+};
 
 int NumberOf(Stream stream) {
   return stream == Stream::kOut ? STDOUT_FILENO : STDERR_FILENO;
@@ -134,10 +150,7 @@ bool ReadBytes(const std::string& path, std::string& bytes) {
     UseBytes(stdin);
     return ReadAll(stdin, bytes);
   }
-  std::error_code unknown;
-  if (fs::is_directory(path, unknown)) return false;
-  const FilePtr file(std::fopen(path.c_str(), "rb"));
-  return file != nullptr && ReadAll(file.get(), bytes);
+  return ReadWholeFile(CString(path), bytes);
 }
 
 void WriteBytes(const std::string& path, std::string_view bytes) {
@@ -150,7 +163,7 @@ void WriteBytes(const std::string& path, std::string_view bytes) {
   if (!SaveFile(CString(path), bytes)) old.FailNotWritten();
 }
 
-TemporaryFile::TemporaryFile() : path_(TemporaryPath()) {
+TemporaryFile::TemporaryFile() : held_(std::make_shared<HeldSignals>()), path_(TemporaryPath()) {
   if (path_.empty()) throw CommandError("no temporary file can be made");
 }
 

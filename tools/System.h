@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -34,7 +35,8 @@ bool ReadBytes(const std::string& path, std::string& bytes);
 /// standard output took them is seen at the end of the run.
 void WriteBytes(const std::string& path, std::string_view bytes);
 
-/// A name for a file of this run alone; the file is removed with the object.
+/// A name for a file of this run alone; the file is removed with the object. Signals that
+/// would end the run wait until then.
 class TemporaryFile {
  public:
   /// Throws `CommandError` when no temporary file can be made.
@@ -46,6 +48,7 @@ class TemporaryFile {
   const std::string& Path() const { return path_; }
 
  private:
+  std::shared_ptr<const void> held_;  // the signals
   std::string path_;
 };
 

@@ -7,6 +7,8 @@
 #include <string_view>
 
 #include "lintavo/platform/Files_intern.h"
+#include "lintavo/platform/Grenzen_intern.h"
+#include "lintavo/platform/ReadFile.h"
 
 #ifdef _WIN32
 #include <filesystem>
@@ -22,6 +24,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 namespace {
@@ -46,6 +49,9 @@ CString PathToRead(const CString& path) {
   return path;
 }
 bool IsFolder(std::FILE*) {
+  return false;
+}
+bool IsDeadPipe(std::FILE*) {
   return false;
 }
 
@@ -84,8 +90,13 @@ void AddEntries(const CString& folder, std::vector<lintavo::FolderEntry>& entrie
 
 #else
 
+// Opening a pipe waits for nobody; only reading does, from whoever writes into it.
 std::FILE* Open(const CString& path, const char* mode) {
-  return std::fopen(path, mode);
+  const int number = ::open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  if (number < 0) return nullptr;
+  std::FILE* file = ::fdopen(number, mode);
+  if (file == nullptr) ::close(number);
+  return file;
 }
 
 constexpr char kSeparator = '/';
@@ -120,6 +131,31 @@ CString PathToRead(const CString& path) {
 bool IsFolder(std::FILE* file) {
   struct stat status {};
   return ::fstat(::fileno(file), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+// From here on reading waits for what is to come.
+void Wait(std::FILE* file) {
+  const int number = ::fileno(file);
+  const int flags = ::fcntl(number, F_GETFL);
+  if (flags >= 0) ::fcntl(number, F_SETFL, flags & ~O_NONBLOCK);
+}
+
+// Whether the file is a pipe in which nothing is and into which nobody writes.
+bool IsDeadPipe(std::FILE* file) {
+  struct stat status {};
+  bool dead = false;
+  if (::fstat(::fileno(file), &status) == 0 && S_ISFIFO(status.st_mode)) {
+    const int first = std::getc(file);
+    const bool writerPauses = std::ferror(file) != 0 && errno == EAGAIN;
+    dead = first == EOF && !writerPauses;
+    if (first == EOF) {
+      std::clearerr(file);
+    } else {
+      std::ungetc(first, file);
+    }
+  }
+  Wait(file);
+  return dead;
 }
 
 struct CloseFolder {
@@ -158,10 +194,31 @@ namespace lintavo {
 
 FilePtr OpenFile(const CString& path, const char* mode) {
   FilePtr file(Open(PathToRead(path), mode));
-  if (file == nullptr) ThrowIfOutOfMemory();
+  if (file == nullptr) {
+    ThrowIfOutOfMemory();
+    return file;
+  }
+  // All readers ask for whole blocks.
+  std::setvbuf(file.get(), nullptr, _IONBF, 0);
   // Elsewhere than on Windows a folder opens for reading like an empty file.
-  if (file != nullptr && IsFolder(file.get())) file.reset();
+  if (IsFolder(file.get()) || IsDeadPipe(file.get())) file.reset();
   return file;
+}
+
+bool ReadWholeFile(const CString& path, std::string& bytes) {
+  const FilePtr file = OpenFile(path, "rb");
+  if (file == nullptr) return false;
+  constexpr std::size_t kBlock = 65536;
+  std::string content;
+  for (std::size_t length = 0, read = kBlock; read == kBlock; length += read) {
+    if (length > kMaxDatei) return false;
+    content.resize(length + kBlock);
+    read = std::fread(content.data() + length, 1, kBlock, file.get());
+    content.resize(length + read);
+  }
+  if (std::ferror(file.get()) != 0 || content.size() > kMaxDatei) return false;
+  bytes = std::move(content);
+  return true;
 }
 
 bool ReadFileStart(const CString& path, std::size_t limit, std::string& bytes) {

@@ -21,9 +21,10 @@ struct CloseFile {
 /// An open file that closes itself. Errors of closing are not reported.
 using FilePtr = std::unique_ptr<std::FILE, CloseFile>;
 
-/// Opens a file for reading with a mode of fopen; null when that fails. A folder
-/// counts as not openable, and the path with slashes is tried when there is
-/// nothing under the path as given. Throws std::bad_alloc where the system has no memory.
+/// Opens a file for reading with a mode of fopen, without a buffer; null when that fails.
+/// A folder counts as not openable, so does a pipe into which nobody writes, and the path with
+/// slashes is tried when there is nothing under the path as given. Throws std::bad_alloc where the
+/// system has no memory.
 FilePtr OpenFile(const CString& path, const char* mode);
 
 /// Replaces bytes by the first limit bytes of a file; false, and bytes are left
