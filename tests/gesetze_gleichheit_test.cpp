@@ -1,5 +1,6 @@
 // Laws of sameness: calculated again, read again, fitted there and back, shifted, enlarged.
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <string>
 
@@ -121,6 +122,45 @@ TEST(Gesetze, ReadWriteReadIsTheSameBytes) {
     if (entwurf.pfostenAutomatisch && andere) return;
     ErwarteGleich(BestandVon(fenster), BestandVon(wieder), kDateirundung);
   });
+}
+
+// Start, end and both cuts of an outer extra part whose ends may be left as placed.
+CMBauteil Aussenteil(Fensterentwurf entwurf, std::size_t i, bool anfang, bool ende) {
+  if (!anfang) entwurf.aussenteile[i].anfang = 0;
+  if (!ende) entwurf.aussenteile[i].ende = 0;
+  const CMFenster fenster = Berechnet(entwurf);
+  for (const CMBauteil& teil : fenster.GetRahmenPtr()->EinzelTeile) {
+    if (teil.IsZusatzteilAussen() && i-- == 0) return teil;
+  }
+  return {};
+}
+
+TEST(Gesetze, FittingOneEndOfAnOuterPartLeavesTheOther) {
+  JedesFenster(
+      [](const Fensterentwurf& entwurf, CMFenster&) {
+        for (std::size_t i = 0; i < entwurf.aussenteile.size(); ++i) {
+          const CMBauteil ganz = Aussenteil(entwurf, i, true, true);
+          const CMBauteil nurAnfang = Aussenteil(entwurf, i, true, false);
+          const CMBauteil nurEnde = Aussenteil(entwurf, i, false, true);
+          const CMBauteil gelegt = Aussenteil(entwurf, i, false, false);
+          if (!gelegt.IsVorhanden()) continue;
+          const auto erwarte = [&](const CMBauteil& anfang, const CMBauteil& ende,
+                                   const CMBauteil& ist) {
+            XY p[6];
+            anfang.GetAchspunkte(p[0], p[4]);
+            ende.GetAchspunkte(p[5], p[1]);
+            ist.GetAchspunkte(p[2], p[3]);
+            EXPECT_LT(std::hypot(p[2].x - p[0].x, p[2].y - p[0].y), 1e-9) << "start of " << i;
+            EXPECT_LT(std::hypot(p[3].x - p[1].x, p[3].y - p[1].y), 1e-9) << "end of " << i;
+            EXPECT_NEAR(ist.Achse(0).dWinkelAnfang, anfang.Achse(0).dWinkelAnfang, 1e-6);
+            EXPECT_NEAR(ist.Achse(0).dWinkelEnde, ende.Achse(0).dWinkelEnde, 1e-6);
+          };
+          erwarte(nurAnfang, nurEnde, ganz);
+          erwarte(nurAnfang, gelegt, nurAnfang);
+          erwarte(gelegt, nurEnde, nurEnde);
+        }
+      },
+      100);
 }
 
 bool HatBeweglicheBeiwerte(const Fensterentwurf& entwurf) {

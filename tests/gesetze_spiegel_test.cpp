@@ -49,17 +49,6 @@ Fensterentwurf OhneNummern(Fensterentwurf entwurf) {
   return entwurf;
 }
 
-// The ends of outer extra parts are fitted one after the other: where one goes as far as the
-// frame's whole outline and the other no farther than its side, the second cut takes off
-// from the first end what lies beyond the side.
-std::vector<Zusatzteilentwurf> MitGleichenEnden(std::vector<Zusatzteilentwurf> teile) {
-  constexpr int kAmUmriss = 4;
-  for (Zusatzteilentwurf& teil : teile) {
-    if (teil.anfang == kAmUmriss || teil.ende == kAmUmriss) teil.anfang = teil.ende = kAmUmriss;
-  }
-  return teile;
-}
-
 // Which number a side has in the mirror: numbers depend on where an outline starts. Parts
 // have the numbers of their sides, unless some of them are bent round several.
 class Seitenpaare {
@@ -184,7 +173,7 @@ class Spiegelpaar {
   void SetzeRahmenteile(const Fensterentwurf& gezogen) {
     if (!Rahmen().TeilJeSeite()) return;
     entwurf.rahmenteile = gezogen.rahmenteile;
-    entwurf.aussenteile = MitGleichenEnden(gezogen.aussenteile);
+    entwurf.aussenteile = gezogen.aussenteile;
     bild.rahmenteile = Rahmen().Querschnitte(entwurf.rahmenteile, entwurf.rahmen);
     bild.aussenteile = Rahmen().Zusatzteile(entwurf.aussenteile);
   }

@@ -333,9 +333,6 @@ class LINTAVO_API CMFenster {
   void RahmenBauen(bool bPfostenRiegelAutomatisch, const std::vector<GEOM2_Polygon>& grundformen);
   void PfostenUndRiegelLegen();
   void FluegelBauen(const std::vector<GEOM2_Polygon>& grundformen);
-  void AussenTeilAnschliessen(CMBauteil& teil, const GEOM2_Polygon& aussen) const;
-  bool VerbindungBilden(const CMBauteil& teil, const GEOM2_Polygon& aussen,
-                        GEOM2_Polygon& verbindung) const;
 
   bool neu_ = true;
   CString dateiName_;

@@ -1,6 +1,5 @@
 // The calculation: from the stored description of a window to its geometry.
 #include <algorithm>
-#include <cmath>
 
 #include "lintavo/geom/PolygonVereinigung.h"
 #include "lintavo/geom/Toleranzen.h"
@@ -8,6 +7,7 @@
 #include "lintavo/model/Fehler_intern.h"
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/Auflager_intern.h"
+#include "lintavo/sash/Aussenanschluss_intern.h"
 
 using lintavo::StringId;
 
@@ -16,62 +16,12 @@ namespace {
 // Sides that turn by less than this, in degrees, may belong to one bent part.
 constexpr double kGroessteWendung = 25.0;
 
-// Section-end types of outer extra parts.
-constexpr int kEndeAnGehrung = 2;       // ends on the cut between its side and the next
-constexpr int kEndeAnSeite = 3;         // ends on the outer contour of its side alone
-constexpr int kEndeAnAussenkontur = 4;  // ends on the outer contour of the whole frame
-
-// The axis of an outer extra part is lengthened far past any contour before it
-// is cut back to one.
-constexpr double kAnschlussVerlaengerung = 10000.0;
-constexpr double kAnschlussSchnittAbstand = 0.25;  // of the part's width
-
-bool IsAnVerbindung(int endtyp) {
-  return endtyp == kEndeAnGehrung || endtyp == kEndeAnSeite;
-}
-
 [[noreturn]] void Throw(StringId id, const CString& arg) {
   throw CMException(static_cast<int>(id), arg);
 }
 
 void ThrowIfFailed(const CMZusatzMasz* masz) {
   if (masz) Throw(StringId::MeldungZusatzmaszNichtAngebracht, masz->strName);
-}
-
-void CopyVertex(const GEOM2_Polygon& from, long i, GEOM2_Polygon& to) {
-  const GEOM2_Eckpunkt& ecke = from.GetEckpunkt(static_cast<int>(i));
-  to.AddPunkt(ecke.x, ecke.y);
-}
-
-void ClearValues(GEOM2_Polygon& polygon) {
-  for (int i = 0; i < polygon.GetAnzahl(); ++i) {
-    polygon.SetWert2(i, 0.0);
-    polygon.SetAttribut(i, 0);
-  }
-}
-
-// Which ends of a part are fitted.
-struct Enden {
-  bool anfang = false;
-  bool ende = false;
-};
-
-// Lengthens the ends of an outer extra part and cuts it to a contour, where the part
-// stays: beyond a gap there may be a longer piece of the contour's inside. An end that is
-// not fitted keeps its cut angle; lengthening alone would clear both.
-void Anschliessen(CMBauteil& bauteil, const Enden& enden, const GEOM2_Polygon& kontur) {
-  if (!enden.anfang && !enden.ende) return;
-  const GEOM2_Achse before = bauteil.Achse(0);
-  const double vorn = enden.anfang ? kAnschlussVerlaengerung : 0.0;
-  bauteil.Verlaengern(vorn, enden.ende ? kAnschlussVerlaengerung : 0.0);
-  GEOM2_Achse& achse = bauteil.Achse(0);
-  if (!kontur.AchseClippen(achse, kAnschlussSchnittAbstand * bauteil.dBreite, vorn,
-                           vorn + before.dLaenge)) {
-    achse = before;
-    return;
-  }
-  if (!enden.anfang) achse.dWinkelAnfang = before.dWinkelAnfang;
-  if (!enden.ende) achse.dWinkelEnde = before.dWinkelEnde;
 }
 
 }  // namespace
@@ -170,7 +120,6 @@ void CMFenster::AussenZusatzteilAnschluesseBerechnen() {
   }
   GEOM2_Polygon aussen;
   if (!rahmen_.ErzeugeRahmenAussenPolygon(aussen)) return;
-  ClearValues(aussen);
   XY low;
   XY high;
   aussen.GetMinMax(low, high);
@@ -179,47 +128,6 @@ void CMFenster::AussenZusatzteilAnschluesseBerechnen() {
 
   for (CMBauteil& teil : teile) {
     if (!teil.IsZusatzteilAussen() || !teil.IsVorhanden()) continue;
-    AussenTeilAnschliessen(teil, aussen);
+    lintavo::FuegeAussenteil(rahmen_, aussen, teil);
   }
-}
-
-// Fits both ends of one outer extra part by their section-end types, the start first; in
-// one go where both end on the same contour.
-void CMFenster::AussenTeilAnschliessen(CMBauteil& teil, const GEOM2_Polygon& aussen) const {
-  const Enden anVerbindung{IsAnVerbindung(teil.cAbschnittsTypAnfang),
-                           IsAnVerbindung(teil.cAbschnittsTypEnde)};
-  const Enden amUmriss{teil.cAbschnittsTypAnfang == kEndeAnAussenkontur,
-                       teil.cAbschnittsTypEnde == kEndeAnAussenkontur};
-  GEOM2_Polygon verbindung;
-  if (anVerbindung.anfang || anVerbindung.ende) {
-    if (!VerbindungBilden(teil, aussen, verbindung)) return;
-  }
-  if (amUmriss.anfang) {
-    Anschliessen(teil, amUmriss, aussen);
-    Anschliessen(teil, anVerbindung, verbindung);
-  } else {
-    Anschliessen(teil, anVerbindung, verbindung);
-    Anschliessen(teil, amUmriss, aussen);
-  }
-}
-
-// The quadrilateral between a side of the frame and the outer contour, in which
-// the side's extra parts end. False when a contour has lost corners, so that
-// the side has no counterpart on it.
-bool CMFenster::VerbindungBilden(const CMBauteil& teil, const GEOM2_Polygon& aussen,
-                                 GEOM2_Polygon& verbindung) const {
-  const GEOM2_Polygon& rahmen = rahmen_.RahmenPolygon;
-  const long s = teil.lSeite;
-  GEOM2_Polygon seite;
-  if (!rahmen_.ErzeugeRahmenAussenPolygon(seite, s)) return false;
-  const int count = rahmen.GetAnzahl();
-  if (s < 0 || s >= count || aussen.GetAnzahl() != count || seite.GetAnzahl() != count) {
-    return false;
-  }
-  const long n = s + 1 < count ? s + 1 : 0;
-  CopyVertex(rahmen, s, verbindung);
-  CopyVertex(teil.cAbschnittsTypAnfang == kEndeAnSeite ? seite : aussen, s, verbindung);
-  CopyVertex(teil.cAbschnittsTypEnde == kEndeAnSeite ? seite : aussen, n, verbindung);
-  CopyVertex(rahmen, n, verbindung);
-  return true;
 }

@@ -172,8 +172,9 @@ class LINTAVO_API CMFensterSatz {
   /// their outlines tile the ring between it and the inner contour. False with
   /// fewer than three vertices; throws 19 or 22 when the ring cannot be built.
   bool ErzeugeRahmenBauteile();
-  /// Contour around all extra parts. False with fewer than three vertices;
-  /// throws 22 when nothing remains.
+  /// Contour around all extra parts; the second further value of a vertex is the
+  /// side that starts there. False with fewer than three vertices; throws 22 when
+  /// nothing remains.
   bool ErzeugeRahmenAussenPolygon(GEOM2_Polygon& out) const;
   /// The same with the extra parts of one side only.
   bool ErzeugeRahmenAussenPolygon(GEOM2_Polygon& out, long side) const;

@@ -272,10 +272,12 @@ bool CMFensterSatz::AussenPolygon(Gilt gilt, GEOM2_Polygon& out) const {
   lintavo::Arbeitsspeicher speicher;
   Liste<double> distances(&speicher);
   distances.reserve(static_cast<std::size_t>(count));
+  GEOM2_Polygon seiten = RahmenPolygon;
   for (int i = 0; i < count; ++i) {
+    seiten.SetWert2(i, i);
     distances.push_back(gilt(i) ? GetAbstandZurRahmenAussenSeite(i) : 0.0);
   }
-  if (!RahmenPolygon.ParallelPolygon(distances.data(), out, true)) ThrowFlaecheNull();
+  if (!seiten.ParallelPolygon(distances.data(), out, true)) ThrowFlaecheNull();
   return true;
 }
 
