@@ -17,6 +17,7 @@
 
 #include "support/Geometrie.h"
 #include "support/Gesetze.h"
+#include "support/Wuerfel.h"
 
 namespace lintavo::test {
 namespace {
@@ -195,6 +196,41 @@ TEST(BogenForm, RisesAreBounded) {
   halb.dStich = 900.0;
   Form(halb, {0, 0}, {500, 3000});
   EXPECT_EQ(halb.dStich, 500.0) << "a half arch does not";
+}
+
+// Any rises over any sash; as a file would have rounded them, too.
+TEST(BogenForm, BuiltAgainItIsTheSame) {
+  Wuerfel wuerfel(8);
+  const auto pruefe = [&](CMFensterSatz& satz) {
+    satz.dStich = wuerfel.Laenge(0.0, 150.0);
+    satz.dStichUnten = wuerfel.Laenge(0.0, 150.0);
+    satz.bKorbbogen = wuerfel.Mit(50);
+    const XY ecke{wuerfel.Laenge(20.0, 300.0) / 3.0, wuerfel.Laenge(20.0, 200.0) / 3.0};
+    const GEOM2_Polygon einmal = Form(satz, {0, 0}, ecke);
+    for (const bool gerundet : {false, true}) {
+      for (double* stich : {&satz.dStich, &satz.dStichUnten}) {
+        if (gerundet) *stich = std::round(*stich * 1e6) / 1e6;
+      }
+      const double oben = satz.dStich;
+      const double unten = satz.dStichUnten;
+      EXPECT_TRUE(GleichesPolygon(einmal, Form(satz, {0, 0}, ecke), gerundet ? 2e-6 : 0.0));
+      EXPECT_EQ(satz.dStich, oben);
+      EXPECT_EQ(satz.dStichUnten, unten);
+    }
+  };
+  for (int i = 0; i < 1000; ++i) {
+    CMFensterSatzBogen bogen;
+    pruefe(bogen);
+    CMFensterSatzHalbBogen halb;
+    pruefe(halb);
+  }
+  CMFensterSatzBogen korb;
+  korb.bKorbbogen = true;
+  korb.dStich = 30.0;
+  korb.dStichUnten = 80.0;
+  Form(korb, {0, 0}, {200, 100});
+  EXPECT_EQ(korb.dStich, 50.0) << "raised to half the height";
+  EXPECT_EQ(korb.dStichUnten, 50.0);
 }
 
 TEST_P(JederBogen, HalvesAreMirrorImages) {

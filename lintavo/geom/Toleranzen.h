@@ -13,6 +13,9 @@ inline constexpr double kRadiantJeGrad = kPi / 180.0;
 inline constexpr double kNullLaenge = 1e-6;
 /// Rounding noise of sums and differences of coordinates.
 inline constexpr double kRechenrauschen = 1e-9;
+/// Lengths that were equal may differ by this much once a file has kept its six decimals
+/// of everything that they are reckoned from.
+inline constexpr double kDateirundung = 2e-6 + kRechenrauschen;
 /// Areas below this are none.
 inline constexpr double kNullFlaeche = 1e-6;
 /// Strict inside test of a segment's midpoint.

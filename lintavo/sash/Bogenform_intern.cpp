@@ -204,6 +204,16 @@ void BegrenzeStiche(Bogenform& form) {
   BegrenzeStich(form.dStich, hoehe, halbeSpanne, form.bKorbbogen);
 }
 
+void MerkeStiche(const Bogenform& form, bool obenHoechstens, double& dStich, double& dStichUnten) {
+  const double oben = obenHoechstens ? std::max(dStich, form.dStich) : form.dStich;
+  if (std::fabs(oben - dStich) <= kDateirundung &&
+      std::fabs(form.dStichUnten - dStichUnten) <= kDateirundung) {
+    return;
+  }
+  dStich = oben;
+  dStichUnten = form.dStichUnten;
+}
+
 void BaueBogen(const Bogenform& form, GEOM2_Polygon& outline) {
   GEOM2_Polygon voll;
   VollerBogen(form).Baue(voll);

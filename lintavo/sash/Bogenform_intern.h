@@ -29,6 +29,11 @@ struct Bogenform {
 /// stay as they are and count as none.
 void BegrenzeStiche(Bogenform& form);
 
+/// Writes the bounded rises back to those that were given, both or none: none where all
+/// that differs is what a file has rounded. With `obenHoechstens` a top rise that was
+/// lowered stays as it was given.
+void MerkeStiche(const Bogenform& form, bool obenHoechstens, double& dStich, double& dStichUnten);
+
 /// Builds the sash's piece of the arch, counter-clockwise, in an empty outline.
 /// The rises must have been bounded. Throws 22 when a vertex is not finite.
 void BaueBogen(const Bogenform& form, GEOM2_Polygon& outline);

@@ -27,10 +27,9 @@ bool CMFensterSatzBogen::BerechneGrundform(const XY& p1, const XY& p2, const XY&
   lintavo::Bogenform form{box, lintavo::UeberstandDerBezugspunkte(box, p3, p4), dStich, dStichUnten,
                           bKorbbogen};
   lintavo::BegrenzeStiche(form);
-  dStichUnten = form.dStichUnten;
-  // A basket arch keeps the rise that was given, on purpose: it comes back when
-  // the sash grows again. Only the outline uses the bounded one.
-  if (!bKorbbogen) dStich = form.dStich;
+  // A basket arch keeps the rise that was given where it is too much, on purpose: it comes
+  // back when the sash grows again. Only the outline uses the bounded one.
+  lintavo::MerkeStiche(form, bKorbbogen, dStich, dStichUnten);
   lintavo::BaueBogen(form, outline);
   return true;
 }

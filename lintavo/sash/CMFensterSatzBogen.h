@@ -15,8 +15,8 @@ class LINTAVO_API CMFensterSatzBogen : public CMFensterSatz {
   bool SaveToIniFile(const CString& section, CIniFile& document) const override;
   bool bStichAnpassen(CMFenster& fenster) override;
   /// Builds the outline and bounds the record's rises; the top rise of a basket
-  /// arch keeps the value given and is bounded in the outline only. Always
-  /// true. Throws 22 when the sash has no area, 46 or 47 when a reference point
+  /// arch keeps the value given where it is too much, and is bounded in the outline
+  /// only. Always true. Throws 22 when the sash has no area, 46 or 47 when a reference point
   /// lies inside it.
   bool BerechneGrundform(const XY& p1, const XY& p2, const XY& p3, const XY& p4,
                          GEOM2_Polygon& outline) override;

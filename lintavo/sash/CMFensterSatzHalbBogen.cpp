@@ -33,8 +33,7 @@ bool CMFensterSatzHalbBogen::BerechneGrundform(const XY& p1, const XY& p2, const
       bGespiegelt ? lintavo::Ueberstand{dBreite, 0.0} : lintavo::Ueberstand{0.0, dBreite};
   lintavo::Bogenform form{box, rand, dStich, dStichUnten, bKorbbogen};
   lintavo::BegrenzeStiche(form);
-  dStichUnten = form.dStichUnten;
-  dStich = form.dStich;
+  lintavo::MerkeStiche(form, false, dStich, dStichUnten);
   lintavo::BaueBogen(form, outline);
   return true;
 }
