@@ -2,8 +2,8 @@
 //
 // Sources by theme: CMFenster.cpp (lists, state), _Datei (macro file),
 // _Berechnung (the calculation), _Pfosten (mullions and transoms),
-// _Masze (dimensions that drive the grid), _Zeichnung (sizes, dimension lines and
-// symbols), _Ansicht (the front view with hidden lines removed).
+// _Masze (dimensions that drive the grid), _Raster (the grid of a saved window), _Zeichnung (sizes,
+// dimension lines and symbols), _Ansicht (the front view with hidden lines removed).
 #pragma once
 
 #include <memory>
@@ -23,6 +23,9 @@
 #include "lintavo/sash/CMFensterSatz.h"
 
 class CIniFile;
+namespace lintavo {
+struct Achsbereich;
+}
 
 /// A parametric window.
 ///
@@ -141,11 +144,13 @@ class LINTAVO_API CMFenster {
   bool ReadFromFile(const CString& path);
   /// Fills the (empty) window from a document.
   bool ReadFromBuffer(CIniFile& document);
-  /// Writes the window into a fresh document. Always true.
+  /// Writes the window into a fresh document, axis 0 of both directions at the origin: a
+  /// grid that begins elsewhere, and with it all coordinates, is written moved. Always true.
   bool SaveToBuffer(CIniFile& document) const;
   /// Compacts the grid and writes the macro file, and beside it on request the
   /// blank parameter form (same name in lower case, ending in txt). False when
-  /// the path is empty or a file cannot be written.
+  /// the path is empty or a file cannot be written; the window is then as it was, its grid
+  /// included.
   bool SaveToFile(const CString& path);
   bool SaveToFile(bool withParameterForm, const CString& path);
   /// Writes the blank parameter form to exactly this path: an INI file with the
@@ -153,8 +158,9 @@ class LINTAVO_API CMFenster {
   /// read by `CMFensterPosition`. Lists the frame parts of the last calculation.
   /// False when the path is empty or the file cannot be written.
   bool SaveParameterFormular(const CString& path) const;
-  /// Drops axes outside the range that the sashes use and brings the first used
-  /// one of each direction to 0.
+  /// Drops axes outside the range that nodes of sashes, dimensions and single parts use,
+  /// and brings the first used one of each direction to 0. Everything that has coordinates
+  /// moves along, so that a calculated window stays calculated.
   void AchsRasterOptimieren();
 
   // --- calculation -----------------------------------------------------------
@@ -204,7 +210,8 @@ class LINTAVO_API CMFenster {
   /// Makes the span from axis i1 to axis i2 equal `dSoll`, spreading the change
   /// evenly over movable axes between them; i1 and i2 are fixed afterwards. False
   /// when i2 is fixed already, i1 equals i2, or no dimension is given. A length
-  /// below 1e-6 changes nothing and is no failure.
+  /// below 1e-6 changes nothing and is no failure; nor does a change of up to 2e-6 where
+  /// length and axes have six decimals, since files round them. No such change is spread.
   bool NeuenAchsAbstandSetzen(const CMZusatzMasz* masz, long i1, long i2, double dSoll);
   /// Moves one axis so that its span from axis `iVon` becomes `dWert`; all other
   /// axes keep their positions. Throws 49 with `name` when `iAchse` is not an
@@ -316,10 +323,23 @@ class LINTAVO_API CMFenster {
     double ymax = 0.0;
   };
 
+  // The present grid from axis (j, k) on, brought to the origin.
+  struct Raster {
+    long j = 0;
+    long k = 0;
+    CMAchsen achsen;
+  };
+
   bool FehlerMerken(CMException&& fehler);
   bool Lies(CIniFile& document);
   bool SaveParameterBlankoFormularToBuffer(CIniFile& document) const;
-  void KnotenIndizesSenken(long dj, long dk);
+  Raster RasterVon(const lintavo::Achsbereich& bereich) const;
+  Raster KompaktesRaster() const;
+  void SetzeRaster(Raster&& raster) noexcept;
+  bool IsRasterVerschoben() const;
+  void RasterAnDenUrsprung();
+  void SenkeKnoten(long dj, long dk) noexcept;
+  void Verschiebe(double dx, double dy) noexcept;
   void FluegelFormBeiwerteAnpassen(bool bVerti, long i1, long i2, const CMAchsen& before);
   CMZusatzMasz* AchsenNachMaszenSetzen();
   bool AchsenNachMaszSetzen(const CMZusatzMasz& masz);

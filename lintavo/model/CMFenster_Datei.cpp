@@ -1,10 +1,8 @@
 // The macro file of a window, and the blank parameter form beside it.
 #include <algorithm>
-#include <climits>
 #include <cmath>
 
 #include "lintavo/ini/CIniFile.h"
-#include "lintavo/model/Achsbereich_intern.h"
 #include "lintavo/model/CMFenster.h"
 #include "lintavo/model/Fehler_intern.h"
 #include "lintavo/platform/Grenzen_intern.h"
@@ -113,25 +111,6 @@ CString FormularPfad(const CString& path) {
   return path.Left(nameStart) + name.Left(name.GetLength() - kEndung) + "txt";
 }
 
-// Sets an index of the compacted grid; the result stays an int for any input.
-int ShiftedIndex(int i, long shift) {
-  return static_cast<int>(
-      std::clamp<long long>(static_cast<long long>(i) - shift, INT_MIN, INT_MAX));
-}
-
-CMKnoten Shifted(const CMKnoten& knoten, long dj, long dk) {
-  CMKnoten shifted = knoten;
-  shifted.SetJ(ShiftedIndex(knoten.J(), dj));
-  shifted.SetK(ShiftedIndex(knoten.K(), dk));
-  return shifted;
-}
-
-CMKnoten ShiftedToAxes(const CMKnoten& knoten, long dj, long dk) {
-  CMKnoten shifted = Shifted(knoten, dj, dk);
-  shifted.Set(shifted.J(), shifted.K());
-  return shifted;
-}
-
 }  // namespace
 
 bool CMFenster::ReadFromFile(const CString& path) {
@@ -187,6 +166,12 @@ bool CMFenster::Lies(CIniFile& document) {
 }
 
 bool CMFenster::SaveToBuffer(CIniFile& document) const {
+  // A file begins with axis 0 at the origin.
+  if (IsRasterVerschoben()) {
+    CMFenster verschoben(*this);
+    verschoben.RasterAnDenUrsprung();
+    return verschoben.SaveToBuffer(document);
+  }
   CString general = Text(StringId::Allgemeines);
   document.SetString(general, Text(StringId::Version), kVersion);
   document.SetString(general, Text(StringId::Name), name_);
@@ -218,15 +203,20 @@ bool CMFenster::SaveToFile(const CString& path) {
 
 bool CMFenster::SaveToFile(bool withParameterForm, const CString& path) {
   if (path.IsEmpty()) return false;
-  dateiName_ = path;
-  AchsRasterOptimieren();
+  // Made of a copy, so that what cannot be written leaves this window alone.
+  Raster raster = KompaktesRaster();
+  CMFenster gespeichert(*this);
+  gespeichert.dateiName_ = path;
+  gespeichert.SetzeRaster(Raster(raster));
   CIniFile document;
-  SaveToBuffer(document);
+  gespeichert.SaveToBuffer(document);
   document.CutLines();
   if (!document.Write(path)) return false;
-  const CString formPath = FormularPfad(path);
-  if (!withParameterForm || formPath.IsEmpty()) return true;
-  return SaveParameterFormular(formPath);
+  const CString formPath = withParameterForm ? FormularPfad(path) : CString();
+  if (!formPath.IsEmpty() && !SaveParameterFormular(formPath)) return false;
+  SetzeRaster(std::move(raster));
+  dateiName_ = std::move(gespeichert.dateiName_);
+  return true;
 }
 
 bool CMFenster::SaveParameterFormular(const CString& path) const {
@@ -264,57 +254,4 @@ bool CMFenster::SaveParameterBlankoFormularToBuffer(CIniFile& document) const {
     document.SetString(section, NumberedName(StringId::Sprossenbild, 1), kMusterSprossenbild);
   }
   return true;
-}
-
-void CMFenster::AchsRasterOptimieren() {
-  const long lastJ = achsen_.iGetCntVerti() - 1;
-  const long lastK = achsen_.iGetCntHori() - 1;
-  // Without a sash no axis is in use, and there is nothing to gain by dropping
-  // them all.
-  if (fluegel_.empty() || lastJ < 0 || lastK < 0) return;
-  // An index past the last axis means that axis, one before the first means 0.
-  const lintavo::Achsbereich benutzt = lintavo::BenutzteAchsen(*this);
-  const long minJ = std::clamp(benutzt.minJ, 0L, lastJ);
-  const long maxJ = std::clamp(benutzt.maxJ, 0L, lastJ);
-  const long minK = std::clamp(benutzt.minK, 0L, lastK);
-  const long maxK = std::clamp(benutzt.maxK, 0L, lastK);
-
-  XY first;
-  achsen_.GetPunkt(static_cast<int>(minJ), static_cast<int>(minK), first);
-  const bool moves = std::fabs(first.x) > 0.0 || std::fabs(first.y) > 0.0;
-
-  CMAchsen compact;
-  compact.AddVerti(0.0);
-  compact.AddHori(0.0);
-  for (long j = minJ; j < maxJ; ++j) {
-    compact.AddVerti(achsen_.dGetAchsAbstX(static_cast<int>(j) + 1));
-  }
-  for (long k = minK; k < maxK; ++k) {
-    compact.AddHori(achsen_.dGetAchsAbstY(static_cast<int>(k) + 1));
-  }
-  // Nothing from here on needs memory: the nodes and the grid go together.
-  if (minJ >= 1 || minK >= 1) KnotenIndizesSenken(minJ, minK);
-  achsen_ = std::move(compact);
-  // Mullions lie where the grid was.
-  if (moves) Invalidiere();
-}
-
-// Lets every node of the window name axes of a grid that has lost its first ones.
-void CMFenster::KnotenIndizesSenken(long dj, long dk) {
-  for (const auto& fluegel : fluegel_) {
-    for (CMKnoten* knoten :
-         {&fluegel->Knoten1, &fluegel->Knoten2, &fluegel->KnotenAL, &fluegel->KnotenAR}) {
-      *knoten = ShiftedToAxes(*knoten, dj, dk);
-    }
-  }
-  for (CMZusatzMasz& masz : zusatzMasze_) {
-    masz.kKnoten1 = Shifted(masz.kKnoten1, dj, dk);
-    masz.kKnoten2 = Shifted(masz.kKnoten2, dj, dk);
-    if (masz.IsZentrisch()) masz.kKnoten3 = Shifted(masz.kKnoten3, dj, dk);
-  }
-  for (CMBauteil& bauteil : rahmen_.EinzelTeile) {
-    if (!bauteil.IsRahmenteil()) continue;
-    bauteil.kAnfang = Shifted(bauteil.kAnfang, dj, dk);
-    bauteil.kEnde = Shifted(bauteil.kEnde, dj, dk);
-  }
 }

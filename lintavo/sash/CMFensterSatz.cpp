@@ -182,6 +182,14 @@ long CMFensterSatz::GetEinzelBauteilNr(const CMBauteil* bauteil) const {
   return PositionOf(EinzelTeile, bauteil);
 }
 
+void CMFensterSatz::Verschieben(double dx, double dy) {
+  RahmenPolygon.Transformieren(1.0, 0.0, dx, dy);
+  Fuellung.Umriss.Transformieren(1.0, 0.0, dx, dy);
+  for (auto* liste : {&RahmenTeile, &EinzelTeile, &Sprossen}) {
+    for (CMBauteil& bauteil : *liste) bauteil.Verschieben(dx, dy);
+  }
+}
+
 void CMFensterSatz::GetPlazierungsPunkte(const CMAchsen& axes, XY& p1, XY& p2, XY& pAL,
                                          XY& pAR) const {
   axes.GetPunkt(Knoten1, p1);

@@ -204,6 +204,9 @@ class LINTAVO_API CMFensterSatz {
   const CMBauteil* GetEinzelBauteilPtr(long i) const;
   CMBauteil* GetSprossenBauteilPtr(long i);
   const CMBauteil* GetSprossenBauteilPtr(long i) const;
+  /// Moves everything that has coordinates: the frame polygon, all components and the
+  /// filling's outline.
+  void Verschieben(double dx, double dy);
   /// Number of components that have a width and a length.
   long lGetAnzahlRahmenBauteile() const;
   long lGetAnzahlEinzelBauteile() const;
