@@ -91,7 +91,9 @@ class LINTAVO_API CMAchsen {
   /// Appends the axes of section "Achsen": one at 0 and those listed, at most
   /// 49 more in each direction. Always true.
   bool ReadFromIniFile(CIniFile& document);
-  /// Writes the distances of all axes but the first. Always true.
+  /// Writes the distances of all axes but the first, as differences of positions with six
+  /// decimals: what is read has every axis within half a millionth of where it was, however
+  /// many lie before it, and written again it gives the same numbers. Always true.
   bool SaveToIniFile(CIniFile& document) const;
 
  private:

@@ -47,6 +47,13 @@ void Fix(CMAchsen& achsen, bool bVerti, int i) {
   }
 }
 
+// Whether a length or half a length may come from a file: it has no more than six decimals.
+bool IsDateizahl(double d) {
+  constexpr double kHalbeSchritte = 2e6;
+  const double schritte = d * kHalbeSchritte;
+  return std::fabs(schritte - std::round(schritte)) <= lintavo::kRechenrauschen * kHalbeSchritte;
+}
+
 // Adds to the distance of an axis. The stored distance is the difference of
 // two positions for every axis but the first.
 void AddToDistance(CMAchsen& achsen, bool bVerti, int i, double d) {
@@ -247,7 +254,10 @@ bool CMFenster::NeuenAchsAbstandSetzen(const CMZusatzMasz* masz, long i1, long i
 
   const CMAchsen before = achsen_;
   const double eff = achsen_.dGetEffVersch(bVerti, von, nach, dSoll);
-  if (std::fabs(eff) >= lintavo::kNullLaenge) {
+  // What files round is no shift that anybody asked for: spread over the axes, and these
+  // rounded again, it would move them at every reading.
+  const bool spreads = !(std::fabs(eff) <= lintavo::kDateirundung);
+  if (spreads) {
     std::vector<int> movable;
     for (int k = von + 1; k < nach; ++k) {
       if (!IsFixed(achsen_, bVerti, k)) movable.push_back(k);
@@ -261,11 +271,11 @@ bool CMFenster::NeuenAchsAbstandSetzen(const CMZusatzMasz* masz, long i1, long i
       AchseVerschieben(bVerti, von, k, Position(achsen_, bVerti, k) + shift, masz->strName);
     }
   }
-  AchseVerschieben(bVerti, von, nach, dSoll, masz->strName);
+  const bool ausDatei = IsDateizahl(dSoll) && IsDateizahl(Position(achsen_, bVerti, von)) &&
+                        IsDateizahl(Position(achsen_, bVerti, nach));
+  if (spreads || !ausDatei) AchseVerschieben(bVerti, von, nach, dSoll, masz->strName);
   Fix(achsen_, bVerti, nach);
-  if (std::fabs(eff) >= lintavo::kNullLaenge) {
-    FluegelFormBeiwerteAnpassen(bVerti, i1, i2, before);
-  }
+  if (spreads) FluegelFormBeiwerteAnpassen(bVerti, i1, i2, before);
   return true;
 }
 
@@ -397,7 +407,7 @@ bool CMFenster::EckenNachMaszSetzen(const CMZusatzMasz& masz, const GEOM2_Polygo
     if (masz.kKnoten1.IsAufAchse() && end.IsAufAchse()) return true;
     const XY span = lintavo::Differenz(NodePosition(achsen_, end), start);
     const double missing = length - (masz.IsHorizonal() ? span.x : span.y);
-    if (std::fabs(missing) < lintavo::kNullLaenge) return true;
+    if (std::fabs(missing) <= lintavo::kDateirundung) return true;
     const bool endMoves = !end.IsAufAchse();
     const CMKnoten& knoten = endMoves ? end : masz.kKnoten1;
     const double shift = endMoves ? missing : -missing;

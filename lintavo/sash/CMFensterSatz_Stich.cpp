@@ -40,7 +40,7 @@ bool EndetAuf(const CMZusatzMasz& masz, const Kaempferlinie& linie, const CMAchs
   const XY ende = KnotenPunkt(masz.kKnoten2, achsen);
   return ende.x >= linie.xLinks - lintavo::kNullLaenge &&
          ende.x <= linie.xRechts + lintavo::kNullLaenge &&
-         std::fabs(ende.y - linie.y) <= lintavo::kNullLaenge;
+         std::fabs(ende.y - linie.y) <= lintavo::kDateirundung;
 }
 
 // Moves the end of a fitted dimension along with the springing line. A node on
@@ -93,7 +93,7 @@ bool CMFensterSatz::bBaseStichAnpassen(CMFenster& fenster) {
     if (!EndetAuf(masz, linie, achsen)) continue;
     const double ziel = KnotenPunkt(masz.kKnoten1, achsen).y + masz.dLaenge;
     const double delta = ziel - linie.y;
-    if (!(std::fabs(delta) > lintavo::kNullLaenge)) continue;
+    if (!(std::fabs(delta) > lintavo::kDateirundung)) continue;
     if (!geaendert) {
       SenkeStich(*this, delta, masz);
       SenkeNachbarn(fenster, *this, delta, masz);
