@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -13,8 +14,12 @@
 
 #include "lintavo/api/CFeApi.h"
 
+#include "fuzz/Abfragen.h"
 #include "fuzz/Fensterlauf.h"
 #include "fuzz/Positionslauf.h"
+#include "fuzz/Vergleich.h"
+#include "support/Beispiele.h"
+#include "support/Gesetze.h"
 #include "support/Ordner.h"
 
 namespace {
@@ -99,6 +104,61 @@ TEST_P(HostileTest, TextIsReadAsPositionAndAsSettings) {
   const lintavo::test::Ordner ordner;
   EXPECT_EQ(lintavo::fuzz::PruefePosition(Inhalt(Pfad()), ordner / ""), "");
   EXPECT_EQ(lintavo::fuzz::PruefeEinstellungen(Inhalt(Pfad()), ordner / ""), "");
+}
+
+// --- numbers that are none, in every place of every example --------------------------
+
+// The text with one of the numbers of its entries, which the dice choose, replaced.
+std::string MitUnzahl(const std::string& text, lintavo::test::Wuerfel& wuerfel) {
+  static const std::regex zahl("[=,](-?[0-9][0-9.]*)(?=[,\r\n])");
+  static const char* const unzahlen[] = {"nan",    "inf",  "-inf", "1e308",
+                                         "-1e308", "1e12", "-1",   "0"};
+  const std::vector<std::smatch> zahlen(std::sregex_iterator(text.begin(), text.end(), zahl), {});
+  const std::smatch& eine =
+      zahlen[static_cast<std::size_t>(wuerfel.Zahl(0, static_cast<int>(zahlen.size()) - 1))];
+  return text.substr(0, static_cast<std::size_t>(eine.position(1))) + unzahlen[wuerfel.Zahl(0, 7)] +
+         eine.suffix().str();
+}
+
+template <class Names>
+const auto& Eines(const Names& names, lintavo::test::Wuerfel& wuerfel) {
+  return names[static_cast<std::size_t>(wuerfel.Zahl(0, static_cast<int>(std::size(names)) - 1))];
+}
+
+TEST(Unzahlen, AWindowFailsOrAnswersAndWritesFiniteNumbers) {
+  static const std::regex unzahl("[=,]-?(nan|inf)[,#]");
+  lintavo::test::JederWurf([](lintavo::test::Wuerfel& wuerfel) {
+    const std::string& name = Eines(lintavo::test::BeispielNamen(), wuerfel);
+    const std::string text = MitUnzahl(Inhalt(lintavo::test::BeispielPfad(name)), wuerfel);
+    EXPECT_EQ(lintavo::fuzz::PruefeMakroText(text, wuerfel.Zahl(0, 2)), "") << text;
+    std::string buffer = text;
+    std::replace(buffer.begin(), buffer.end(), '\n', '#');
+    CFeApi fenster;
+    fenster.ReadFromBuffer(static_cast<long>(buffer.size()), buffer.data());
+    EXPECT_FALSE(std::regex_search(lintavo::fuzz::Geschrieben(fenster), unzahl)) << text;
+    EXPECT_TRUE(lintavo::fuzz::SindEndlich(lintavo::fuzz::FrageAlles(fenster).Angaben)) << text;
+  });
+}
+
+TEST(Unzahlen, APositionFailsOrAnswersFiniteNumbers) {
+  const lintavo::test::Ordner ordner;
+  lintavo::test::JederWurf(
+      [&](lintavo::test::Wuerfel& wuerfel) {
+        constexpr const char* kPositionen[] = {"diele", "kueche", "schlafzimmer"};
+        constexpr const char* kTypen[] = {"Einfluegelig", "Oberlicht", "Rundbogen",
+                                          "Zweifluegelig"};
+        constexpr const char* kBilder[] = {"01", "02", "03", "04", "Rauten"};
+        const std::string beispiele = LINTAVO_EXAMPLES_DIR "/";
+        std::string teile[] = {
+            Inhalt(beispiele + "Positionen/" + Eines(kPositionen, wuerfel) + ".txt"),
+            Inhalt(beispiele + "Fenster/" + Eines(kTypen, wuerfel) + ".ini"),
+            Inhalt(beispiele + "Sprossen/" + Eines(kBilder, wuerfel) + ".ini")};
+        std::string& teil = teile[wuerfel.Zahl(0, 2)];
+        teil = MitUnzahl(teil, wuerfel);
+        const std::string text = teile[0] + "----\n" + teile[1] + "----\n" + teile[2];
+        EXPECT_EQ(lintavo::fuzz::PruefePosition(text, ordner / "", wuerfel.Zahl(0, 2)), "") << text;
+      },
+      60);
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, HostileTest, testing::ValuesIn(Dateien()), TestName);

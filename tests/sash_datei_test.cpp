@@ -151,7 +151,7 @@ TEST(SatzDatei, GapsEndListsAndOtherCountsArePassedOver) {
 
 TEST(SatzDatei, HostileFilesStayBounded) {
   CIniFile document = Dokument({"[Fluegel1]", "Fuellung=nan,1e30,inf,0,0,0,0,0,1e30,-1e30,nan,0",
-                                "Rahmendicke=nan", "RahmenDefaults=inf,1,1e300,nan,-1e300,1",
+                                "Rahmendicke=5", "RahmenDefaults=inf,1,1e300,nan,-1e300,1",
                                 "Knoten1=1e30,nan", "Knoten2=-1e30,0", "Z1=1e300,1,1,1,1,1,1"});
   for (int i = 1; i <= 300; ++i) {
     for (const char* format :
@@ -163,6 +163,9 @@ TEST(SatzDatei, HostileFilesStayBounded) {
   }
   CMFensterSatz satz;
   ASSERT_TRUE(satz.ReadFromIniFile(kSektion, document));
+  // Measures that are none leave what was there, whole numbers are cut.
+  EXPECT_EQ(satz.Fuellung.D1, 0.0);
+  EXPECT_EQ(satz.RahmenVorlage.dBreite, CMFensterSatz().RahmenVorlage.dBreite);
   EXPECT_EQ(satz.Knoten1.J(), INT_MAX);
   EXPECT_EQ(satz.Knoten1.K(), 0);
   EXPECT_EQ(satz.Knoten2.J(), INT_MIN);

@@ -5,6 +5,7 @@
 
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/ini/CIniFile.h"
+#include "lintavo/model/Masze_intern.h"
 #include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/resources/StringTable.h"
 
@@ -62,8 +63,8 @@ void ReadAxes(CIniFile& document, lintavo::StringId prefix, Achsen& achsen) {
   achsen.emplace_back(0.0, false);
   for (long i = 1; i <= lintavo::kMaxAchsen; ++i) {
     double d = 0.0;
-    if (!document.GetDouble(lintavo::Text(lintavo::StringId::Achsen),
-                            lintavo::NumberedName(prefix, i), d)) {
+    if (!lintavo::ReadMasz(document, lintavo::Text(lintavo::StringId::Achsen),
+                           lintavo::NumberedName(prefix, i), d)) {
       return;
     }
     achsen.emplace_back(d, false);

@@ -5,6 +5,7 @@
 #include "lintavo/ini/CIniFile.h"
 #include "lintavo/model/CMFenster.h"
 #include "lintavo/model/Fehler_intern.h"
+#include "lintavo/model/Masze_intern.h"
 #include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/platform/Numbers_intern.h"
 #include "lintavo/resources/StringTable.h"
@@ -33,6 +34,7 @@ bool ReadKnoten(CIniFile& document, const CString& section, const char* key, CMK
   const int j = lintavo::TruncateToInt(v[0]);
   const int k = lintavo::TruncateToInt(v[1]);
   if (count == 4) {
+    if (!lintavo::IstBrauchbar(v[2]) || !lintavo::IstBrauchbar(v[3])) return false;
     knoten.SetEckpu(j, k, v[2], v[3]);
   } else {
     knoten.Set(j, k);
@@ -70,7 +72,7 @@ bool ReadZusatzMasz(CIniFile& document, const CString& section, CMZusatzMasz& ma
   CMKnoten k2;
   CMKnoten k3;
   if (!document.GetString(section, Text(StringId::Name), masz.strName)) return false;
-  if (!document.GetDoubles(section, Text(StringId::Laenge), 2, laenge)) return false;
+  if (!lintavo::ReadMasze(document, section, Text(StringId::Laenge), 2, laenge)) return false;
   if (!document.GetBool(section, Text(StringId::Richtung), horizontal)) return false;
   if (!ReadKnoten(document, section, Text(StringId::Knoten1), k1)) return false;
   if (!ReadKnoten(document, section, Text(StringId::Knoten2), k2)) return false;

@@ -2,19 +2,22 @@
 // which its reader and its writer share.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <span>
 
+#include "lintavo/geom/Vektor_intern.h"
 #include "lintavo/model/CMBauteil.h"
 #include "lintavo/platform/Numbers_intern.h"
 
 namespace lintavo {
 
 /// A number of a list: how it is taken from a component and put into it. Whole
-/// numbers are truncated when they are put.
+/// numbers are truncated when they are put; measures must be such as can be drawn.
 struct Bauteilfeld {
   double (*Lese)(const CMBauteil&);
   void (*Setze)(CMBauteil&, double);
+  bool bMasz = false;
 };
 
 using Feldliste = std::span<const Bauteilfeld>;
@@ -23,7 +26,7 @@ namespace feld {
 
 template <double CMBauteil::*Member>
 inline constexpr Bauteilfeld kZahl = {[](const CMBauteil& b) { return b.*Member; },
-                                      [](CMBauteil& b, double wert) { b.*Member = wert; }};
+                                      [](CMBauteil& b, double wert) { b.*Member = wert; }, true};
 
 template <std::size_t I>
 inline constexpr Bauteilfeld kAttribut = {
@@ -44,12 +47,12 @@ inline constexpr Bauteilfeld kKnotenK = {
 template <double GEOM2_Achse::*Member>
 inline constexpr Bauteilfeld kAchse = {
     [](const CMBauteil& b) { return b.Achsen.empty() ? 0.0 : b.Achsen.front().*Member; },
-    [](CMBauteil& b, double wert) { b.Achse(0).*Member = wert; }};
+    [](CMBauteil& b, double wert) { b.Achse(0).*Member = wert; }, true};
 
 template <double XY::*Member>
 inline constexpr Bauteilfeld kAchsStart = {
     [](const CMBauteil& b) { return b.Achsen.empty() ? 0.0 : b.Achsen.front().Start.*Member; },
-    [](CMBauteil& b, double wert) { b.Achse(0).Start.*Member = wert; }};
+    [](CMBauteil& b, double wert) { b.Achse(0).Start.*Member = wert; }, true};
 
 inline constexpr Bauteilfeld kBreite = kZahl<&CMBauteil::dBreite>;
 inline constexpr Bauteilfeld kBreite2 = kZahl<&CMBauteil::dBreite2>;
@@ -110,9 +113,15 @@ inline constexpr std::array kFormularZusatzteil = {kSeite, kBreite, kBreite2,   
 
 }  // namespace feld
 
-/// Puts one number per field into the component.
-inline void SetzeFelder(CMBauteil& bauteil, Feldliste felder, const double* werte) {
+/// Puts one number per field into the component. False, and nothing is put, when one of
+/// the measures is none: the list counts as missing then.
+inline bool SetzeFelder(CMBauteil& bauteil, Feldliste felder, const double* werte) {
+  const auto istNichts = [&](const Bauteilfeld& f) {
+    return f.bMasz && !IstBrauchbar(werte[&f - felder.data()]);
+  };
+  if (std::any_of(felder.begin(), felder.end(), istNichts)) return false;
   for (const Bauteilfeld& f : felder) f.Setze(bauteil, *werte++);
+  return true;
 }
 
 /// Takes one number per field from the component.

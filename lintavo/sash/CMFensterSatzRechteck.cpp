@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "lintavo/geom/Toleranzen.h"
+#include "lintavo/geom/Vektor_intern.h"
 #include "lintavo/ini/CIniFile.h"
 #include "lintavo/model/CMAchsen.h"
 #include "lintavo/resources/StringTable.h"
@@ -23,7 +24,8 @@ void ReadFormBeiwerte(CIniFile& document, const CString& section, const CString&
     // and a movable coefficient, not what the record held.
     double werte[2] = {0.0, 0.0};
     document.GetDoubles(section, lintavo::NumberedName(prefix, i + 1), 2, werte);
-    beiwerte[i] = {werte[0], werte[1] > kFlagGesetzt};
+    beiwerte[i] = {0.0, false};
+    if (lintavo::IstBrauchbar(werte[0])) beiwerte[i] = {werte[0], werte[1] > kFlagGesetzt};
   }
 }
 

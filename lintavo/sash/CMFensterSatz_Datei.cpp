@@ -6,6 +6,7 @@
 
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/ini/CIniFile.h"
+#include "lintavo/model/Masze_intern.h"
 #include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/platform/Numbers_intern.h"
 #include "lintavo/resources/StringTable.h"
@@ -13,7 +14,9 @@
 #include "lintavo/sash/CMFensterSatz.h"
 
 using lintavo::Feldliste;
+using lintavo::IstBrauchbar;
 using lintavo::NumberedName;
+using lintavo::ReadMasz;
 using lintavo::StringId;
 using lintavo::Text;
 namespace feld = lintavo::feld;
@@ -53,8 +56,7 @@ bool ReadFelder(CIniFile& document, const CString& section, const CString& key, 
                 CMBauteil& bauteil) {
   double werte[kLaengsteListe];
   if (!document.GetDoubles(section, key, static_cast<long>(felder.size()), werte)) return false;
-  lintavo::SetzeFelder(bauteil, felder, werte);
-  return true;
+  return lintavo::SetzeFelder(bauteil, felder, werte);
 }
 
 // Appends the components of one kind, up to the first number that is missing.
@@ -97,7 +99,7 @@ void ReadEinzelTeile(CIniFile& document, const CString& section, std::vector<CMB
     CMBauteil bauteil;
     Feldliste felder;
     if (!ErkenneEinzelTeil(anzahl, bauteil.lTyp, felder)) continue;
-    lintavo::SetzeFelder(bauteil, felder, werte);
+    if (!lintavo::SetzeFelder(bauteil, felder, werte)) return;
     liste.push_back(bauteil);
   }
 }
@@ -109,6 +111,7 @@ void ReadBeschlaege(CIniFile& document, const CString& section, std::vector<CMBe
                              werte)) {
       return;
     }
+    if (!IstBrauchbar(werte[3]) || !IstBrauchbar(werte[5])) return;
     CMBeschlag beschlag;
     beschlag.eTyp = static_cast<eBeschlagTypen>(lintavo::TruncateToInt(werte[0]));
     beschlag.lBauteil = lintavo::TruncateToInt(werte[1]);
@@ -231,6 +234,10 @@ bool CMFensterSatz::ReadFuellungFromIniFile(const CString& section, CIniFile& do
   if (!document.GetDoubles(section, Text(StringId::Fuellung), kFuellungsZahlen, werte)) {
     return true;
   }
+  // The measures between the kind and the attributes.
+  if (!std::all_of(werte + 1, werte + 8, [](double wert) { return IstBrauchbar(wert); })) {
+    return true;
+  }
   Fuellung.lArt = lintavo::TruncateToInt(werte[0]);
   // Slat widths are whole numbers once they come from a file, on purpose:
   // windows read from a file have always been counted out with these.
@@ -280,8 +287,8 @@ bool CMFensterSatz::ReadFromIniFile(const CString& section, CIniFile& document) 
   ReadFuellungFromIniFile(section, document);
 
   double dicke = 0.0;
-  if (!document.GetDouble(section, Text(StringId::Rahmendicke), dicke)) return false;
-  document.GetDouble(section, Text(StringId::ZVersatz), dZVersatz);
+  if (!ReadMasz(document, section, Text(StringId::Rahmendicke), dicke)) return false;
+  ReadMasz(document, section, Text(StringId::ZVersatz), dZVersatz);
   // The thickness reaches the template only together with the defaults, on
   // purpose: without them the template stays whole as it was.
   if (ReadFelder(document, section, Text(StringId::RahmenDefaults),
@@ -366,8 +373,8 @@ void CMFensterSatz::SaveBauteileToParameterFormular(long lArt, const CString& se
 }
 
 void CMFensterSatz::ReadBogenFromIniFile(const CString& section, CIniFile& document) {
-  document.GetDouble(section, Text(StringId::Stich), dStich);
-  document.GetDouble(section, Text(StringId::StichUnten), dStichUnten);
+  ReadMasz(document, section, Text(StringId::Stich), dStich);
+  ReadMasz(document, section, Text(StringId::StichUnten), dStichUnten);
   document.GetBool(section, Text(StringId::Korbbogen), bKorbbogen);
 }
 

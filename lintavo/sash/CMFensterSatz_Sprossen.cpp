@@ -6,11 +6,14 @@
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/ini/CIniFile.h"
 #include "lintavo/model/CMException.h"
+#include "lintavo/model/Masze_intern.h"
 #include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/CMFensterSatz.h"
 
 using lintavo::NumberedName;
+using lintavo::ReadMasz;
+using lintavo::ReadMasze;
 using lintavo::StringId;
 using lintavo::Text;
 
@@ -57,15 +60,15 @@ bool ReadSprossenbild(CIniFile& pattern, const GEOM2_Polygon& contour, double br
   bool skalieren = false;
   double bereich = 0.0;
   pattern.GetBool(section, Text(StringId::Skalieren), skalieren);
-  pattern.GetDouble(section, Text(StringId::Bereich), bereich);
+  ReadMasz(pattern, section, Text(StringId::Bereich), bereich);
   if (!(bereich >= lintavo::kNullLaenge)) return false;
 
   bild.faktor = kBereichEinfach / bereich;
   // Only a width or thickness that the pattern gives is scaled, on purpose: the
   // defaults are drawing units already.
   double wert = 0.0;
-  if (pattern.GetDouble(section, Text(StringId::Breite), wert)) bild.breite = wert * bild.faktor;
-  if (pattern.GetDouble(section, Text(StringId::Dicke), wert)) bild.dicke = wert * bild.faktor;
+  if (ReadMasz(pattern, section, Text(StringId::Breite), wert)) bild.breite = wert * bild.faktor;
+  if (ReadMasz(pattern, section, Text(StringId::Dicke), wert)) bild.dicke = wert * bild.faktor;
   if (breite > lintavo::kNullLaenge) bild.breite = breite;
 
   XY min;
@@ -121,7 +124,7 @@ bool CMFensterSatz::ErzeugeSprossenBild(long nummer, CIniFile& pattern, double b
     double werte[kSprossenZahlen];
     for (long i = 1; i <= lintavo::kMaxBildsprossen; ++i) {
       const CString key = NumberedName(prefix, i);
-      if (!pattern.GetDoubles(Text(StringId::Allgemeines), key, kSprossenZahlen, werte)) return;
+      if (!ReadMasze(pattern, Text(StringId::Allgemeines), key, kSprossenZahlen, werte)) return;
       SprosseAnfuegen(vorlage, achseVon(bild, werte), contour);
     }
   };

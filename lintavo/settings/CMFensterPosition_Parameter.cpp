@@ -3,10 +3,12 @@
 #include <array>
 #include <cmath>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/ini/CIniFile.h"
+#include "lintavo/model/Masze_intern.h"
 #include "lintavo/platform/Grenzen_intern.h"
 #include "lintavo/platform/Numbers_intern.h"
 #include "lintavo/platform/Whitespace_intern.h"
@@ -38,9 +40,11 @@ bool ReadBauteil(CIniFile& document, const CString& section, const CString& key,
   if (!document.GetDoubles(section, key, static_cast<long>(werte.size()), werte.data())) {
     return false;
   }
+  CMBauteil gelesen = bauteil;
   // Not every list has a second width; there is none then.
-  bauteil.dBreite2 = 0.0;
-  lintavo::SetzeFelder(bauteil, felder, werte.data());
+  gelesen.dBreite2 = 0.0;
+  if (!lintavo::SetzeFelder(gelesen, felder, werte.data())) return false;
+  bauteil = std::move(gelesen);
   bauteil.dBreite *= kZehntel;
   bauteil.dBreite2 *= kZehntel;
   return true;
@@ -58,7 +62,7 @@ void ReadRahmenTeile(CIniFile& document, const CString& section, StringId prefix
 // keeps it.
 void ReadRahmendicke(CIniFile& document, const CString& section, CMFensterSatz& satz) {
   double dicke = 0.0;
-  if (!document.GetDouble(section, Text(StringId::Rahmendicke), dicke)) return;
+  if (!lintavo::ReadMasz(document, section, Text(StringId::Rahmendicke), dicke)) return;
   const double bisher = satz.RahmenVorlage.dDicke;
   satz.RahmenVorlage.dDicke = dicke * kZehntel;
   for (CMBauteil& bauteil : satz.RahmenTeile) {
@@ -130,6 +134,8 @@ bool LiesBildangabe(const CString& text, Bildangabe& angabe) {
   if (teile.size() != ohneBreite && teile.size() != ohneBreite + 1) return false;
   auto teil = teile.begin() + 1;
   if (teile.size() > ohneBreite) angabe.dBreite = lintavo::ParseNumber(*teil++) * kZehntel;
+  // A width that is none leaves the pattern's own.
+  if (!lintavo::IstBrauchbar(angabe.dBreite)) angabe.dBreite = 0.0;
   for (double& attribut : angabe.dAttribute) attribut = lintavo::ParseNumber(*teil++);
   return true;
 }
@@ -164,7 +170,7 @@ void CMFensterPosition::ReadParameter(CIniFile& document) {
   for (long i = 0; i < fenster_.GetAnzahlZusatzMasze(); ++i) {
     CMZusatzMasz& masz = *fenster_.GetZusatzMaszPtr(i);
     double wert = 0.0;
-    if (!document.GetDouble(Text(StringId::Masze), masz.strName, wert)) continue;
+    if (!lintavo::ReadMasz(document, Text(StringId::Masze), masz.strName, wert)) continue;
     // Files hold lengths without the sign, which tells the direction.
     const bool negativ = masz.dLaenge < -lintavo::kNullLaenge;
     masz.dLaenge = (negativ ? -wert : wert) * kZehntel;
