@@ -10,6 +10,10 @@ namespace {
 
 constexpr std::size_t kBlattgroesse = 8;
 
+XY Mitte(const Kasten& k) {
+  return {0.5 * (k.min.x + k.max.x), 0.5 * (k.min.y + k.max.y)};
+}
+
 }  // namespace
 
 void Kasten::Erweitern(const XY& p) {
@@ -38,11 +42,14 @@ void Kastenbaum::Teilen(std::size_t von, std::size_t bis) {
   for (std::size_t i = von; i < bis; ++i) aeste_[nr].kasten.Erweitern(kaesten_[inhalt_[i]]);
   if (bis - von <= kBlattgroesse) return;
 
-  const Kasten& ganz = aeste_[nr].kasten;
-  const bool entlangX = ganz.max.x - ganz.min.x >= ganz.max.y - ganz.min.y;
+  // Where the middles lie decides: boxes that all reach across are not told apart along
+  // the direction in which they reach.
+  Kasten mitten;
+  for (std::size_t i = von; i < bis; ++i) mitten.Erweitern(Mitte(kaesten_[inhalt_[i]]));
+  const bool entlangX = mitten.max.x - mitten.min.x >= mitten.max.y - mitten.min.y;
   const auto lage = [&](std::size_t i) {
-    const Kasten& k = kaesten_[i];
-    return entlangX ? k.min.x + k.max.x : k.min.y + k.max.y;
+    const XY m = Mitte(kaesten_[i]);
+    return entlangX ? m.x : m.y;
   };
   const std::size_t mitte = von + (bis - von) / 2;
   const auto an = [&](std::size_t i) { return inhalt_.begin() + static_cast<std::ptrdiff_t>(i); };

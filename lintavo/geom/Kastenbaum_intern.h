@@ -25,9 +25,9 @@ struct Kasten {
   }
 };
 
-/// A tree over boxes: halved at the middle box of the longer extent until few are
-/// left. Unlike the cells of a grid it does not mind sizes and places that differ
-/// much. All boxes must be finite.
+/// A tree over boxes: halved at the middle box along the direction in which the boxes' own
+/// middles lie farther apart, until few are left. Unlike the cells of a grid it does not mind sizes
+/// and places that differ much. All boxes must be finite.
 class Kastenbaum {
  public:
   Kastenbaum() = default;
@@ -36,7 +36,15 @@ class Kastenbaum {
   /// Calls f(index) for every box that meets `k`, in no particular order.
   template <typename F>
   void Suchen(const Kasten& k, F&& f) const {
-    if (!aeste_.empty()) Suchen(0, k, f);
+    SuchenBis(k, [&](std::size_t i) {
+      f(i);
+      return false;
+    });
+  }
+  /// The same until f(index) is true; tells whether it was.
+  template <typename F>
+  bool SuchenBis(const Kasten& k, F&& f) const {
+    return !aeste_.empty() && SuchenBis(0, k, f);
   }
 
  private:
@@ -53,17 +61,14 @@ class Kastenbaum {
 
   // The tree halves, so the recursion is as deep as the number of boxes has bits.
   template <typename F>
-  void Suchen(std::size_t nr, const Kasten& k, F& f) const {
+  bool SuchenBis(std::size_t nr, const Kasten& k, F& f) const {
     const Ast& ast = aeste_[nr];
-    if (!ast.kasten.Trifft(k)) return;
-    if (ast.zweiter != 0) {
-      Suchen(nr + 1, k, f);
-      Suchen(ast.zweiter, k, f);
-      return;
-    }
+    if (!ast.kasten.Trifft(k)) return false;
+    if (ast.zweiter != 0) return SuchenBis(nr + 1, k, f) || SuchenBis(ast.zweiter, k, f);
     for (std::size_t i = ast.von; i < ast.bis; ++i) {
-      if (kaesten_[inhalt_[i]].Trifft(k)) f(inhalt_[i]);
+      if (kaesten_[inhalt_[i]].Trifft(k) && f(inhalt_[i])) return true;
     }
+    return false;
   }
 
   std::vector<Kasten> kaesten_;

@@ -11,18 +11,20 @@ namespace lintavo {
 void Seitenblick::Richten(const XY& a, const XY& b) {
   a_ = a;
   richtung_ = Einheit(Differenz(b, a));
+  laenge_ = Abstand(a, b);
   links_.clear();
   rechts_.clear();
 }
 
-void Seitenblick::Hinzufuegen(const std::vector<XY>& ring) {
+bool Seitenblick::Hinzufuegen(const std::vector<XY>& ring) {
   gesehen_.clear();
   for (const XY& ecke : ring) {
     const XY p = Differenz(ecke, a_);
     gesehen_.push_back({Skalarprodukt(richtung_, p), Kreuzprodukt(richtung_, p)});
   }
-  SeiteHinzufuegen(kNebenKante, links_);
-  SeiteHinzufuegen(-kNebenKante, rechts_);
+  const bool links = SeiteHinzufuegen(kNebenKante, links_);
+  const bool rechts = SeiteHinzufuegen(-kNebenKante, rechts_);
+  return links && rechts;
 }
 
 Abschnitte Seitenblick::Innen() {
@@ -31,8 +33,14 @@ Abschnitte Seitenblick::Innen() {
   return GemeinsameAbschnitte(links_, rechts_);
 }
 
-// Adds the stretches of the parallel at distance v that lie inside the ring.
-void Seitenblick::SeiteHinzufuegen(double v, Abschnitte& seite) {
+// Whether a stretch leaves nothing of the edge that would be a stretch of its own.
+bool Seitenblick::IstGanz(double von, double bis) const {
+  return von < kNullLaenge && laenge_ - bis < kNullLaenge && bis - von >= kNullLaenge;
+}
+
+// Adds the stretches of the parallel at distance v that lie inside the ring; true when one
+// is the whole edge.
+bool Seitenblick::SeiteHinzufuegen(double v, Abschnitte& seite) {
   schnitte_.clear();
   for (std::size_t i = 0; i < gesehen_.size(); ++i) {
     const XY& p = gesehen_[i];
@@ -45,9 +53,12 @@ void Seitenblick::SeiteHinzufuegen(double v, Abschnitte& seite) {
   }
   std::sort(schnitte_.begin(), schnitte_.end());
   // A closed ring crosses a line an even number of times.
+  bool ganz = false;
   for (std::size_t i = 0; i + 1 < schnitte_.size(); i += 2) {
     seite.push_back({schnitte_[i], schnitte_[i + 1]});
+    ganz = ganz || IstGanz(schnitte_[i], schnitte_[i + 1]);
   }
+  return ganz;
 }
 
 Teilstueck TeilDerKante(const XY& a, const XY& b, double laenge, const Abschnitt& abschnitt) {

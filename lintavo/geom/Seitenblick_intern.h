@@ -24,15 +24,18 @@ class Seitenblick {
   void Richten(const XY& a, const XY& b);
   /// Adds a surface. A point is inside it when a ray from it crosses the ring an odd
   /// number of times, so a ring may touch itself, as that of a closed row of parts does.
-  void Hinzufuegen(const std::vector<XY>& ring);
+  /// True when the whole edge is inside this surface alone.
+  bool Hinzufuegen(const std::vector<XY>& ring);
   /// The stretches inside the area, in order; they may reach past the edge's ends.
   Abschnitte Innen();
 
  private:
-  void SeiteHinzufuegen(double v, Abschnitte& seite);
+  bool SeiteHinzufuegen(double v, Abschnitte& seite);
+  bool IstGanz(double von, double bis) const;
 
   XY a_;
   XY richtung_;
+  double laenge_ = 0.0;
   std::vector<XY> gesehen_;
   std::vector<double> schnitte_;
   Abschnitte links_;

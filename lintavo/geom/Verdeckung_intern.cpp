@@ -26,12 +26,12 @@ void Verdeckung::Sortieren() {
   baum_ = Kastenbaum(std::move(kaesten));
 }
 
-void Verdeckung::Beschatten(const XY& a, const XY& b, std::size_t ebene, Seitenblick& blick) const {
+bool Verdeckung::Beschatten(const XY& a, const XY& b, std::size_t ebene, Seitenblick& blick) const {
   Kasten kasten;
   kasten.Erweitern(a);
   kasten.Erweitern(b);
-  baum_.Suchen(kasten.Vergroessert(kNebenKante), [&](std::size_t i) {
-    if (flaechen_[i].ebene < ebene) blick.Hinzufuegen(flaechen_[i].ring);
+  return baum_.SuchenBis(kasten.Vergroessert(kNebenKante), [&](std::size_t i) {
+    return flaechen_[i].ebene < ebene && blick.Hinzufuegen(flaechen_[i].ring);
   });
 }
 

@@ -21,8 +21,9 @@ class Verdeckung {
   /// Call once after the last surface and before the first question.
   void Sortieren();
   /// Adds the surfaces in layers before `ebene` that may cover the edge ab to the
-  /// view from that edge.
-  void Beschatten(const XY& a, const XY& b, std::size_t ebene, Seitenblick& blick) const;
+  /// view from that edge. True as soon as one of them covers all of it: what the others
+  /// cover makes no difference then, and most of what is hidden lies under something large.
+  bool Beschatten(const XY& a, const XY& b, std::size_t ebene, Seitenblick& blick) const;
 
  private:
   struct Flaeche {

@@ -133,8 +133,9 @@ bool Sichtbild::ZeichneTeil(const Bildteil& teil, std::size_t ebene, const Verde
     const double laenge = Abstand(a, b);
     if (laenge < kNullLaenge) continue;
     blick_.Richten(a, b);
-    verdeckung_.Beschatten(a, b, ebene, blick_);
-    innerhalb.Beschatten(a, b, nr, blick_);
+    if (verdeckung_.Beschatten(a, b, ebene, blick_) || innerhalb.Beschatten(a, b, nr, blick_)) {
+      continue;
+    }
     for (const Abschnitt& abschnitt : UebrigeAbschnitte({{0.0, laenge}}, blick_.Innen())) {
       if (kanten_.size() == kMaxBildkanten) return false;
       const Teilstueck stueck = TeilDerKante(a, b, laenge, abschnitt);
