@@ -4,6 +4,7 @@
 #include <CLI/CLI.hpp>
 #include <string_view>
 
+#include "Checks.h"
 #include "Numbers.h"
 #include "StyleFile.h"
 
@@ -39,6 +40,7 @@ void AddPaperOptions(CLI::App& command, PictureOptions& options) {
       ->check(CLI::IsMember({"de", "en"}))
       ->type_name("LANG");
   command.add_option("--dpi", options.dpi, "Pixels per inch of a PNG")
+      ->check(CheckNumber)  // a range alone lets what is no number pass
       ->check(CLI::Range(1.0, kLargestDpi))
       ->type_name("NUMBER");
 }
