@@ -98,6 +98,20 @@ TEST(IniRead, GivesTheSameLinesWhateverTheBlocks) {
   EXPECT_EQ(LinesOf(bytes), expected);
 }
 
+// Two bytes each, a line takes sixteen times that in memory.
+TEST(IniRead, AMillionLinesAreReadAndNotOneMore) {
+  std::string text;
+  for (int i = 0; i < 1'000'000; ++i) text += i % 2 == 0 ? "x\n" : "[\n";
+  CIniFile document;
+  ReadText(document, text);
+  EXPECT_EQ(document.GetLines().size(), 1'000'000U);
+  std::ofstream(FilePath()) << "x\n";
+  EXPECT_EQ(document.Read(FilePath()), 0);
+  std::filesystem::remove(FilePath());
+  EXPECT_EQ(document.GetLines().size(), 1'000'000U);
+  EXPECT_EQ(document.GetCntSections(), 500'000);
+}
+
 TEST(IniRead, AddsASecondFile) {
   CIniFile document;
   ReadText(document, "[A]\nx=1\n[B]\n");

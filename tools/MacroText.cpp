@@ -12,6 +12,8 @@ namespace {
 
 // What a plain file holds of a line; a longer one is read in pieces.
 constexpr std::size_t kPlainLineMax = 255;
+// As many as the library itself reads.
+constexpr std::size_t kLinesMax = 1'000'000;
 constexpr char kBufferEnd = '#';
 constexpr char kCompressedEnd = '\r';
 constexpr std::string_view kBlanks = " \t\n\v\f\r";
@@ -45,6 +47,13 @@ std::string Inflated(std::string_view bytes) {
   return text;
 }
 
+void Add(std::string_view line, std::vector<std::string>& lines) {
+  if (lines.size() == kLinesMax) {
+    throw CommandError("there are more than " + std::to_string(kLinesMax) + " lines");
+  }
+  lines.emplace_back(line);
+}
+
 std::vector<std::string> LinesEndedBy(char end, std::string_view text) {
   std::vector<std::string> lines;
   std::string line;
@@ -54,7 +63,7 @@ std::vector<std::string> LinesEndedBy(char end, std::string_view text) {
       line += c;
       continue;
     }
-    lines.push_back(std::move(line));
+    Add(line, lines);
     line.clear();
   }
   if (!line.empty()) throw CommandError("the last line has no end and is not read: " + line);
@@ -77,7 +86,7 @@ std::vector<std::string> PlainLines(std::string_view text) {
         end == std::string_view::npos ? std::min(text.size(), kPlainLineMax) : end + 1;
     const std::string_view piece = text.substr(0, length);
     const std::string_view line = Trimmed(piece.substr(0, piece.find('\0')));
-    if (!line.empty()) lines.emplace_back(line);
+    if (!line.empty()) Add(line, lines);
     text.remove_prefix(length);
   }
   return lines;

@@ -105,12 +105,14 @@ int CFeApi::ReadFromBuffer(long length, const char* buffer, int separator) {
   if (!pFenster_) return 0;
   return MitFehler(*pFenster_, [&] {
     CIniFile document;
+    bool passt = true;
     lintavo::JedeZeile(length, buffer, separator, [&](std::string_view line) {
-      document.AddLine(line);
-      return true;
+      passt = document.GetLines().size() < lintavo::kMaxZeilen;
+      if (passt) document.AddLine(line);
+      return passt;
     });
     pFenster_->Delete();
-    if (!pFenster_->ReadFromBuffer(document)) return 0;
+    if (!passt || !pFenster_->ReadFromBuffer(document)) return 0;
     return pFenster_->Berechne(false) ? 1 : 0;
   });
 }

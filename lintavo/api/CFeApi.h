@@ -80,7 +80,7 @@ class LINTAVO_API CFeApi {
   /// Reads a buffer whose lines end with '#', as `WriteToBuffer` makes it.
   int ReadFromBuffer(long length, const char* buffer);
   /// Reads `length` bytes whose lines end with `separator`; line feeds are
-  /// skipped and bytes after the last separator are dropped.
+  /// skipped and bytes after the last separator are dropped. 0 beyond 1,000,000 lines.
   int ReadFromBuffer(long length, const char* buffer, int separator);
   /// Writes the plain macro file. The axis grid is compacted first.
   int WriteToFile(const char* path);

@@ -116,8 +116,9 @@ int CIniFile::Read(const CString& path) {
   PieceReader reader(file.get());
   for (std::string_view piece = reader.Next(); !piece.empty(); piece = reader.Next()) {
     AppendPiece(piece);
+    if (m_Lines.size() > lintavo::kMaxZeilen) break;
   }
-  if (!reader.HasFailed()) return 1;
+  if (!reader.HasFailed() && m_Lines.size() <= lintavo::kMaxZeilen) return 1;
   m_Lines.resize(linesBefore);
   m_CntSections = sectionsBefore;
   return 0;

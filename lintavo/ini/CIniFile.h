@@ -30,11 +30,11 @@ class LINTAVO_API CIniFile {
   virtual ~CIniFile();
 
   /// Appends the lines of a file: 1, or 0 when it cannot be opened or not be read
-  /// to its end, or is longer than 64 MiB; nothing is appended then. Lines are
-  /// trimmed at both ends and blank ones dropped. A line longer than 255
-  /// characters becomes several lines of at most 255, each trimmed; what
-  /// follows a zero byte in a piece is dropped with the rest of that piece.
-  /// What was there before stays, so a second file adds to the first.
+  /// to its end, is longer than 64 MiB or makes more than a million lines; nothing is appended
+  /// then. Lines are trimmed at both ends and blank ones dropped. A line longer than 255 characters
+  /// becomes several lines of at most 255, each trimmed; what follows a zero byte in a piece is
+  /// dropped with the rest of that piece. What was there before stays, so a second file adds to the
+  /// first.
   int Read(const CString& path);
 
   /// Writes all lines, with an empty line before each section header but one

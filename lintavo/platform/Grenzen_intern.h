@@ -37,6 +37,9 @@ inline constexpr long kMaxMaterialien = 9999;
 /// Bytes of a document; of anything longer, an endless device for one, it would only fill
 /// the memory. Files of windows have a thousandth of that.
 inline constexpr std::size_t kMaxDatei = std::size_t{64} << 20;
+/// Lines of a document: short ones take several times as much memory as bytes. A file of
+/// 9,999 materials of each kind has a third of that, one of a window a hundredth.
+inline constexpr std::size_t kMaxZeilen = 1'000'000;
 /// Slats of a filling, from below. A shutter has a tenth of that; a file may ask for any
 /// number by a width near 0.
 inline constexpr long kMaxLamellen = 1000;
