@@ -162,6 +162,186 @@ TEST(Versatz, OfConvexOutlinesIsExact) {
   EXPECT_LT(leer, 500);
 }
 
+// ---- outlines that are not convex, with a distance per edge ----------------------------
+
+using Zufall = std::mt19937;
+
+double Zwischen(Zufall& zufall, double von, double bis) {
+  return von + (bis - von) * static_cast<double>(zufall()) / 4294967296.0;
+}
+
+/// Steps, flat arches and gaps between them over one base, from the right to the left.
+GEOM2_Polygon Silhouette(Zufall& zufall, bool mitBoegen) {
+  GEOM2_Polygon p = Poly("(0,0) (240,0)");
+  double x = 240;
+  while (x > 0.0) {
+    const double breite = std::min(x, Zwischen(zufall, 15, 120));
+    const double y = std::round(Zwischen(zufall, 20, 100));
+    const double stich = mitBoegen ? breite * Zwischen(zufall, 0.02, 0.3) : 0.0;
+    const int teile = stich > 0.0 ? 12 : 1;
+    for (int k = 0; k <= teile; ++k) {
+      const double u = static_cast<double>(k) / teile;
+      p.AddPunkt(x - breite * u, y + stich * 4 * u * (1 - u));
+    }
+    x = x - breite < 15 ? 0.0 : x - breite;
+    if (x <= 0.0) p.SetPunkt(p.GetAnzahl() - 1, 0, y);
+  }
+  p.Bereinigen(1e-6);
+  return p;
+}
+
+GEOM2_Polygon Stern(Zufall& zufall) {
+  GEOM2_Polygon p;
+  const int n = 5 + static_cast<int>(zufall() % 10);
+  for (int i = 0; i < n; ++i) {
+    const double winkel = 2 * lintavo::kPi * (i + 0.8 * Zwischen(zufall, 0, 1)) / n;
+    const double r = Zwischen(zufall, 40, 100);
+    p.AddPunkt(r * std::cos(winkel), r * std::sin(winkel));
+  }
+  return p;
+}
+
+/// Whether no reentrant corner can reach the mitre limit, which makes leaps.
+bool IstMild(const GEOM2_Polygon& p) {
+  for (int i = 0; i < p.GetAnzahl(); ++i) {
+    XY a, b, c;
+    p.GetKante(i, a, b);
+    p.GetKante((i + 1) % p.GetAnzahl(), b, c);
+    const double kreuz = (b.x - a.x) * (c.y - b.y) - (b.y - a.y) * (c.x - b.x);
+    const double skalar = (b.x - a.x) * (c.x - b.x) + (b.y - a.y) * (c.y - b.y);
+    const double grad = std::atan2(kreuz, skalar) * 180 / lintavo::kPi;
+    if (grad < 0 && (grad > -20 || grad < -140)) return false;
+  }
+  return true;
+}
+
+/// Whether some side of an offset, named by its attribute, runs against its edge.
+bool HatGedrehte(const GEOM2_Polygon& versetzt, const GEOM2_Polygon& quelle) {
+  for (int i = 0; i < versetzt.GetAnzahl(); ++i) {
+    XY a, b, c, d;
+    versetzt.GetKante(i, a, b);
+    quelle.GetKante(versetzt.GetAttribut(i), c, d);
+    if ((b.x - a.x) * (d.x - c.x) + (b.y - a.y) * (d.y - c.y) < 0) return true;
+  }
+  return false;
+}
+
+/// How many places along the edges of a lie in b, a hair beside its edge included.
+int Innen(const GEOM2_Polygon& a, const GEOM2_Polygon& b) {
+  int innen = 0;
+  for (int i = 0; i < 4 * a.GetAnzahl(); ++i) {
+    XY von, bis;
+    a.GetKante(i / 4, von, bis);
+    const double u = 0.25 * (i % 4);
+    const XY p{von.x + (bis.x - von.x) * u, von.y + (bis.y - von.y) * u};
+    innen += b.IsAufRand(p, 1e-4) || b.IsInside(p, true, 1e-9) ? 1 : 0;
+  }
+  return innen;
+}
+
+TEST(Versatz, ObeysItsLawsOnOutlinesOfAllKinds) {
+  int mitErgebnis = 0;
+  int gewachsen = 0;
+  for (unsigned saat = 1; saat <= 1500; ++saat) {
+    SCOPED_TRACE("seed " + std::to_string(saat));
+    Zufall zufall(saat);
+    GEOM2_Polygon p = saat % 3 == 0 ? Stern(zufall) : Silhouette(zufall, saat % 3 == 1);
+    if (!IstMild(p) || !IstSchleifenfrei(p) || p.GetFlaeche() <= 0) continue;
+    const double groesster = Zwischen(zufall, 1, 25);
+    std::vector<double> abstaende;
+    for (int i = 0; i < p.GetAnzahl(); ++i) {
+      p.SetAttribut(i, i);
+      const bool bogen = i > 0 && p.GetKantenLaenge(i) < 14;
+      abstaende.push_back(bogen ? abstaende.back() : -groesster * Zwischen(zufall, 0.2, 1));
+    }
+    const GEOM2_Polygon ist = Versetzt(p, abstaende);
+    const double flaeche = ist.GetFlaeche();
+    mitErgebnis += flaeche > 0 ? 1 : 0;
+
+    // It never leaves the source and has no loop; the bare ring stays where no side of it
+    // has vanished.
+    ASSERT_TRUE(ist.GetAnzahl() == 0 || IstSchleifenfrei(ist)) << Text(p);
+    ASSERT_EQ(Innen(ist, p), 4 * ist.GetAnzahl()) << Text(p);
+    const GEOM2_Polygon bloss = Versetzt(p, abstaende, false);
+    if (IstSchleifenfrei(bloss) && bloss.GetFlaeche() > 0 && !HatGedrehte(bloss, p)) {
+      ASSERT_NEAR(flaeche, bloss.GetFlaeche(), 1e-6) << Text(p);
+    }
+    // What is left of the smallest offset by one distance lies in one of its pieces.
+    const GEOM2_Polygon kleinstes =
+        Versetzt(p, *std::min_element(abstaende.begin(), abstaende.end()));
+    ASSERT_GE(flaeche, kleinstes.GetFlaeche() - 1e-6) << Text(p);
+    const int gemeinsam = Innen(kleinstes, ist);
+    ASSERT_TRUE(gemeinsam == 0 || gemeinsam == 4 * kleinstes.GetAnzahl()) << Text(p);
+    // It does not grow with a distance, unless it has a step that has come to fall the
+    // other way.
+    std::vector<double> mehr = abstaende;
+    mehr[zufall() % mehr.size()] *= 1.1;
+    if (!HatGedrehte(ist, p)) {
+      gewachsen += Versetzt(p, mehr).GetFlaeche() > flaeche + 1e-6 ? 1 : 0;
+    }
+    // Turned or walked the other way round it is the same.
+    ASSERT_NEAR(Versetzt(Gedreht(p, 37), abstaende).GetFlaeche(), flaeche, 1e-5) << Text(p);
+    GEOM2_Polygon zurueck = p;
+    zurueck.Umkehren();
+    for (double& d : abstaende) d = -d;
+    std::reverse(abstaende.begin(), abstaende.end());
+    ASSERT_NEAR(-Versetzt(zurueck, abstaende).GetFlaeche(), flaeche, 1e-6) << Text(p);
+  }
+  EXPECT_GT(mitErgebnis, 700);
+  EXPECT_EQ(gewachsen, 0);
+}
+
+TEST(Versatz, StepsTowersAndWingsThatVanish) {
+  // The narrow part's step falls the other way: 79 - 9 is below 78 - 5.
+  EXPECT_TRUE(
+      GleichesPolygon(Poly("(5,5,1) (95,5,2) (95,70,3) (57,70,4) (57,73,5) (5,73,6)"),
+                      Versetzt(Poly("(0,0,1) (100,0,2) (100,79,3) (50,79,4) (50,78,5) (0,78,6)"),
+                               {-5, -5, -9, -7, -5, -5})));
+  // The tower at the left is 10 wide and loses 28 and 6.
+  EXPECT_TRUE(
+      GleichesPolygon(Poly("(6,20,1) (180,20,2) (180,40,3) (6,40,6)"),
+                      Versetzt(Poly("(0,0,1) (200,0,2) (200,50,3) (10,50,4) (10,60,5) (0,60,6)"),
+                               {-20, -20, -10, -28, -25, -6})));
+  // The wing collapses to exactly nothing; the sides that stay keep their numbers.
+  EXPECT_TRUE(GleichesPolygon(
+      Poly("(50,10,1) (90,10,2) (90,50,3) (50,50,4)"),
+      Versetzt(Poly("(0,0,1) (100,0,2) (100,60,3) (40,60,4) (40,20,5) (0,20,6)"), -10)));
+}
+
+TEST(Versatz, ReentrantCornersHaveAMitreLimit) {
+  // A notch of half angle b with tan b = 1/12: 4 / sin b = 48.2 is beyond 3 * 4, so it is
+  // cut 4 below its tip, (1 - sin b) / cos b * 4 to both sides. Its flanks reach the edge
+  // above, moved down by 4, 4 / cos b beside the notch, which is 2 * 56 / 12 wide there.
+  const GEOM2_Polygon kerbe = Poly(
+      "(0,0,1) (100,0,2) (100,100,3) (55,100,4) (50,40,5) (45,100,6)"
+      " (0,100,7)");
+  const double hypotenuse = std::sqrt(145.0);
+  const double unten = 4 * (hypotenuse - 1) / 12;
+  const double oben = 56.0 / 12 + 4 * hypotenuse / 12;
+  GEOM2_Polygon erwartet = Poly(
+      "(4,4,1) (96,4,2) (96,96,3) (0,96,4) (0,36,5) (0,36,5) (0,96,6)"
+      " (4,96,7)");
+  erwartet.SetPunkt(3, 50 + oben, 96);
+  erwartet.SetPunkt(4, 50 + unten, 36);
+  erwartet.SetPunkt(5, 50 - unten, 36);
+  erwartet.SetPunkt(6, 50 - oben, 96);
+  EXPECT_TRUE(GleichesPolygon(erwartet, Versetzt(kerbe, -4)));
+  // Below it the base is 40 thick: what a spike would have cut in two stays whole.
+  EXPECT_NEAR(Versetzt(Gedreht(kerbe, 71), -4).GetFlaeche(), erwartet.GetFlaeche(), 1e-6);
+  // Outwards the notch closes where it is narrower than twice the distance.
+  EXPECT_TRUE(GleicherRing(Rechteck(-6, -6, 106, 106), Versetzt(kerbe, 6)));
+
+  // Two slopes that hardly turn, 9 and 7 deep: they would meet 100 beside their joint. The
+  // step between them stands in the joint.
+  const GEOM2_Polygon tal = Poly("(-50,0) (50,0) (50,80.5) (0,80) (-50,80.5)");
+  const GEOM2_Polygon innen = Versetzt(tal, {-5, -5, -9, -7, -5});
+  const double laenge = std::hypot(50.0, 0.5) / 50;
+  EXPECT_TRUE(innen.IsAufRand({0, 80 - 9 * laenge}, 1e-9));
+  EXPECT_TRUE(innen.IsAufRand({0, 80 - 7 * laenge}, 1e-9));
+  EXPECT_TRUE(innen.IsAufRand({45, 80.45 - 9 * laenge}, 1e-9));
+  EXPECT_EQ(innen.GetAnzahl(), 6);
+}
+
 TEST(Versatz, HostileDistancesGiveNothing) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   EXPECT_EQ(Versetzt(Rechteck(0, 0, 10, 10), {nan, 1, 1, 1}).GetAnzahl(), 0);

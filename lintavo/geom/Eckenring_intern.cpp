@@ -59,9 +59,13 @@ Flaechenring AlsFlaechenring(const Eckenring& ring) {
 void SeitenUmkehren(Eckenring& ring) {
   if (ring.empty()) return;
   std::reverse(ring.begin(), ring.end());
-  const int erste = ring.front().quelle;
-  for (std::size_t k = 0; k + 1 < ring.size(); ++k) ring[k].quelle = ring[k + 1].quelle;
-  ring.back().quelle = erste;
+  const Ringecke erste = ring.front();
+  const auto uebernehmen = [](Ringecke& ecke, const Ringecke& von) {
+    ecke.quelle = von.quelle;
+    ecke.kappung = von.kappung;
+  };
+  for (std::size_t k = 0; k + 1 < ring.size(); ++k) uebernehmen(ring[k], ring[k + 1]);
+  uebernehmen(ring.back(), erste);
 }
 
 std::vector<Eckenring> Stuecke(const std::vector<Ergebnisring>& ringe) {

@@ -15,6 +15,7 @@ namespace lintavo {
 struct Ringecke {
   XY ort;
   int quelle = 0;
+  bool kappung = false;  ///< the side is the cut of that vertex' corner, not its edge
 };
 using Eckenring = Liste<Ringecke>;
 

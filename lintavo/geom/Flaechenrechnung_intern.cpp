@@ -269,11 +269,7 @@ Path Gegenuhrzeigersinn(const std::vector<XY>& ring, const Ganzzahlraster& raste
 double Breite(const Path& pfad, const Ganzzahlraster& raster) {
   std::vector<XY> ring;
   for (const IntPoint& p : pfad) ring.push_back(raster.Doppelt(p));
-  double umfang = 0.0;
-  for (std::size_t i = 0; i < ring.size(); ++i) {
-    umfang += Abstand(ring[i], ring[(i + 1) % ring.size()]);
-  }
-  return umfang > 0.0 ? 2 * Ringflaeche(ring) / umfang : 0.0;
+  return Ringbreite(ring);
 }
 
 /// False when the edges touch too often to be reckoned with.

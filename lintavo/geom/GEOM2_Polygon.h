@@ -116,20 +116,35 @@ class LINTAVO_API GEOM2_Polygon {
   /// @name Offset
   /// @{
   /// Moves every edge by d to its right (outwards for counter-clockwise outlines) and
-  /// joins the moved edges again; sides that the move turned round are dropped, so no
-  /// loop comes out. ergebnis keeps what it had when nothing with at least 3 vertices
-  /// remains. It may be this polygon itself.
+  /// joins the moved edges again. Sides that vanish on the way are dropped and their
+  /// neighbours joined, in the order in which they vanish while all distances grow
+  /// together; what cuts itself even then is taken apart, and the largest piece remains.
+  /// So no loop comes out, and with all edges moving inwards nothing outside the outline.
+  ///
+  /// At a corner that points inwards the moved edges of a narrow notch meet far away.
+  /// Beyond three times the larger distance the corner is cut square to its bisector at
+  /// the larger distance; where the edges hardly turn but move by different distances, the
+  /// cut stands in the bisector. Corners that point outwards have no limit.
+  ///
+  /// It takes n log n for n edges, unless the outline falls into pieces; areas are then
+  /// reckoned with, up to 300,000 pairs of edges that touch. Beyond, nothing remains.
+  ///
+  /// ergebnis keeps what it had when nothing with at least 3 vertices remains. It may be
+  /// this polygon itself.
   void ParallelPolygon(double d, GEOM2_Polygon& ergebnis) const;
-  /// The same with one distance per edge, in edge order.
+  /// The same with one distance per edge, in edge order. A side that has come to run the
+  /// other way between two that move side by side stays: a step between two heights that
+  /// now falls the other way.
   ///
   /// A corner gets the second further value and the attribute of the vertex whose side
-  /// starts there, and a first further value of 0. Corners between parallel neighbours
-  /// and beside edges shorter than 1e-6 are dropped.
+  /// starts there, both ends of a cut those of the corner's vertex, and a first further
+  /// value of 0. Corners between parallel neighbours and beside edges shorter than 1e-6
+  /// are dropped.
   ///
   /// @param abstaende  GetAnzahl() distances.
   /// @param bereinigen false: the bare corners, which fold over where a side is turned
-  ///                   round. true: without vanished sides, loops and superfluous
-  ///                   vertices.
+  ///                   round, without a limit. true: without vanished sides, loops and
+  ///                   superfluous vertices.
   /// @return whether at least 3 vertices remain; else ergebnis is empty.
   bool ParallelPolygon(const double* abstaende, GEOM2_Polygon& ergebnis, bool bereinigen) const;
   /// @}

@@ -293,6 +293,18 @@ std::vector<std::vector<std::size_t>> AnBeruehrungenTeilen(std::span<const std::
   return teile;
 }
 
+namespace {
+
+double Ringumfang(std::span<const XY> ring) {
+  double umfang = 0.0;
+  for (std::size_t i = 0; i < ring.size(); ++i) {
+    umfang += Abstand(ring[i], ring[i + 1 == ring.size() ? 0 : i + 1]);
+  }
+  return umfang;
+}
+
+}  // namespace
+
 double Ringflaeche(std::span<const XY> ring) {
   double summe = 0.0;
   for (std::size_t i = 1; i + 1 < ring.size(); ++i) {
@@ -301,12 +313,14 @@ double Ringflaeche(std::span<const XY> ring) {
   return summe / 2;
 }
 
+double Ringbreite(std::span<const XY> ring) {
+  const double umfang = Ringumfang(ring);
+  return umfang > 0.0 ? 2 * Ringflaeche(ring) / umfang : 0.0;
+}
+
 Ringwahl RingwahlVon(std::span<const XY> ring, std::vector<std::size_t> quellen) {
-  Ringwahl wahl{Ringflaeche(ring), 0.0, std::move(quellen)};
+  Ringwahl wahl{Ringflaeche(ring), Ringumfang(ring), std::move(quellen)};
   std::sort(wahl.quellen.begin(), wahl.quellen.end());
-  for (std::size_t i = 0; i < ring.size(); ++i) {
-    wahl.umfang += Abstand(ring[i], ring[i + 1 == ring.size() ? 0 : i + 1]);
-  }
   return wahl;
 }
 

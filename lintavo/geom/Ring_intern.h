@@ -57,6 +57,9 @@ std::vector<std::vector<std::size_t>> AnBeruehrungenTeilen(std::span<const std::
 /// Signed area, positive for counter-clockwise order.
 double Ringflaeche(std::span<const XY> ring);
 
+/// Twice the area over the perimeter: the width of a narrow strip; 0 without an area.
+double Ringbreite(std::span<const XY> ring);
+
 /// What chooses one of several rings.
 struct Ringwahl {
   double flaeche = 0.0;

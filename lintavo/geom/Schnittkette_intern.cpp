@@ -116,12 +116,11 @@ class Kette {
 
 enum class Ausgang { kGeloescht, kBleibt, kLeer };
 
-/// Judges a turned side of a closed outline by the turn of its neighbours.
-Ausgang GedrehteSeite(Kette& kette, std::size_t i, int umlauf, bool konvex) {
-  if (kette.Anzahl() <= 3 && konvex) return Ausgang::kLeer;
+/// Judges a turned side of a convex outline by the turn of its neighbours.
+Ausgang GedrehteSeite(Kette& kette, std::size_t i, int umlauf) {
+  if (kette.Anzahl() <= 3) return Ausgang::kLeer;
   const double wendung = umlauf * (kette.Wendung(i) + kette.Wendung(kette.Danach(i)));
-  if (wendung >= kPi - kHalbeDrehung) return konvex ? Ausgang::kLeer : Ausgang::kBleibt;
-  if (wendung <= -kPi + kHalbeDrehung || kette.Anzahl() <= 3) return Ausgang::kBleibt;
+  if (wendung >= kPi - kHalbeDrehung) return Ausgang::kLeer;
   return kette.Loeschen(i) ? Ausgang::kGeloescht : Ausgang::kBleibt;
 }
 
@@ -177,8 +176,16 @@ bool HatGedrehteSeite(std::span<const XY> ecken, std::span<const XY> wege) {
   return false;
 }
 
+bool HatVerschwundeneSeite(std::span<const XY> ecken, std::span<const XY> wege) {
+  for (std::size_t i = 0; i < ecken.size(); ++i) {
+    const XY weg = Differenz(ecken[i + 1 == ecken.size() ? 0 : i + 1], ecken[i]);
+    if (Skalarprodukt(weg, wege[i]) < kNullLaenge * Betrag(wege[i])) return true;
+  }
+  return false;
+}
+
 GeschlosseneKette VerschwundeneSeitenLoeschen(const Liste<Kettenseite>& seiten,
-                                              std::span<const XY> ecken, int umlauf, bool konvex) {
+                                              std::span<const XY> ecken, int umlauf) {
   GeschlosseneKette ergebnis;
   const std::size_t n = seiten.size();
   if (n < 3 || ecken.size() != n) return ergebnis;
@@ -193,7 +200,7 @@ GeschlosseneKette VerschwundeneSeitenLoeschen(const Liste<Kettenseite>& seiten,
     if (!kette.IstDa(i) || !kette.IstGedreht(i)) continue;
     const std::size_t davor = kette.Davor(i);
     const std::size_t danach = kette.Danach(i);
-    switch (GedrehteSeite(kette, i, umlauf, konvex)) {
+    switch (GedrehteSeite(kette, i, umlauf)) {
       case Ausgang::kLeer:
         return ergebnis;
       case Ausgang::kGeloescht:

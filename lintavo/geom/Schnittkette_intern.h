@@ -8,9 +8,10 @@
 //        \__/         ->     \  /        side i between p and q is turned round:
 //        /i \                 \/         p and q meet before it
 //
-// One at a time is exact for convex outlines: a side that is turned round between
-// neighbours whose turn is below a half turn is implied by them, and where the turn
-// reaches a half turn nothing is left of the outline.
+// One at a time, in any order, is exact for convex outlines: a side that is turned round
+// between neighbours whose turn is below a half turn is implied by them, and where the
+// turn reaches a half turn nothing is left of the outline. Other outlines are followed by
+// Versatzfront_intern.h.
 #pragma once
 
 #include <cstddef>
@@ -50,8 +51,7 @@ struct Kettenecke {
 /// What is left of a closed chain.
 struct GeschlosseneKette {
   Liste<Kettenecke> ecken;  ///< in order; empty when the outline vanished
-  bool gedreht = false;     ///< turned sides remain that no two neighbours imply (never for
-                            ///< convex outlines): the ring has loops
+  bool gedreht = false;     ///< turned sides remain (never for convex outlines)
 };
 
 /// Whether the ways round an outline turn to one side only (umlauf +1 left, -1 right), and
@@ -62,18 +62,20 @@ bool SindKonvex(std::span<const XY> wege, int umlauf);
 /// wege[i].
 bool HatGedrehteSeite(std::span<const XY> ecken, std::span<const XY> wege);
 
+/// Whether a side is turned round or has no length left.
+bool HatVerschwundeneSeite(std::span<const XY> ecken, std::span<const XY> wege);
+
 /// Intersects two lines; false, p untouched, when they are parallel.
 bool GeradenSchneiden(const Gerade& a, const Gerade& b, XY& p);
 
-/// Drops the vanished sides of a closed outline, in time n log n or better.
+/// Drops the vanished sides of a convex outline, in time n log n or better.
 ///
 /// @param seiten  the shifted sides in order.
 /// @param ecken   ecken[i] is where side i starts, that is its corner with the side
 ///                before it; as many as sides.
 /// @param umlauf  +1 for a counter-clockwise outline, -1 for a clockwise one.
-/// @param konvex  whether the sides' ways are, as SindKonvex says.
 GeschlosseneKette VerschwundeneSeitenLoeschen(const Liste<Kettenseite>& seiten,
-                                              std::span<const XY> ecken, int umlauf, bool konvex);
+                                              std::span<const XY> ecken, int umlauf);
 
 /// The same for the sides between two fixed cut lines, which are seiten.front() and
 /// seiten.back() and are never dropped. The first corner lies on the first cut line and
