@@ -39,13 +39,16 @@ Segmentmasze MesseSegment(const CMBauteil& bauteil, long i) {
   GEOM2_Polygon umriss;
   bauteil.GetUmrissPunkteAchsSegment(i, umriss);
   const double winkel = bauteil.Achse(i).dWinkel * kRadiantJeGrad;
-  // Right start, right end, left end, left start.
+  // Right start, right end, left end, left start; a mitre that ends before the left side
+  // puts a corner more before the left end.
   umriss.Transformieren(std::cos(winkel), -std::sin(winkel), 0.0, 0.0);
   const auto x = [&](int ecke) { return umriss.GetEckpunkt(ecke).x; };
   XY min;
   XY max;
   umriss.GetMinMax(min, max);
-  return {x(1) - x(0), x(2) - x(3), max.x - min.x};
+  const GEOM2_Achse& achse = bauteil.Achse(i);
+  const int linksEnde = achse.bLinkeSeite && achse.dTiefeEnde != 0.0 ? 3 : 2;
+  return {x(1) - x(0), x(linksEnde) - x(linksEnde + 1), max.x - min.x};
 }
 
 std::vector<XY> Achsecken(const CMBauteil& bauteil) {

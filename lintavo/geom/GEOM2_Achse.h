@@ -19,4 +19,17 @@ struct GEOM2_Achse {
   double dWinkel = 0.0;        ///< direction, from +x counter-clockwise, -180 to 180
   double dWinkelAnfang = 0.0;  ///< lean of the cut at the start
   double dWinkelEnde = 0.0;    ///< lean of the cut at the end
+
+  /// @name The left side of a frame part, where the frame's inner contour has other corners
+  /// @{
+  /// How deep to the left each cut goes; 0 through the whole section. The mitre of a needle
+  /// corner ends before: from there the outline leads to the left side, which starts
+  /// dWegAnfang after the axis' start and ends dWegEnde after its end.
+  double dTiefeAnfang = 0.0;
+  double dTiefeEnde = 0.0;
+  double dWegAnfang = 0.0;
+  double dWegEnde = 0.0;
+  /// False where the left side has vanished: both cuts lead to one place.
+  bool bLinkeSeite = true;
+  /// @}
 };

@@ -244,10 +244,8 @@ bool GEOM2_Polygon::SetAchse(const XY& p1, const XY& p2, GEOM2_Achse& achse) {
   // The length is written in any case: callers recognise a vanished axis by it.
   achse.dLaenge = std::sqrt(dx * dx + dy * dy);
   if (achse.dLaenge < GetEpsilon()) return false;
-  achse.Start = p1;
-  achse.dWinkel = std::atan2(dy, dx) * 180.0 / lintavo::kPi;
-  achse.dWinkelAnfang = 0.0;
-  achse.dWinkelEnde = 0.0;
+  const double winkel = std::atan2(dy, dx) * 180.0 / lintavo::kPi;
+  achse = GEOM2_Achse{.Start = p1, .dLaenge = achse.dLaenge, .dWinkel = winkel};
   return true;
 }
 

@@ -13,6 +13,7 @@
 #include "lintavo/geom/Schnittkette_intern.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
+#include "lintavo/geom/Versatz_intern.h"
 #include "lintavo/geom/Versatzecke_intern.h"
 #include "lintavo/geom/Versatzfront_intern.h"
 
@@ -293,18 +294,23 @@ Eckenring Entschleifen(const Eckenring& roh, const Liste<XY>& wege, const Auftra
   return lintavo::Groesstes(*stuecke, auftrag.umlauf);
 }
 
-/// The cleaned offset.
-Eckenring Versetzen(const Auftrag& auftrag, Speicher speicher) {
-  Eckenring ring = EckenVerschieben(auftrag, true, speicher);
-  if (ring.size() < 3) return {};
-  const Liste<XY> wege = Wege(auftrag, ring);
-  ring = lintavo::SindKonvex(wege, auftrag.umlauf) ? KonvexEntschleifen(ring, wege, auftrag)
-                                                   : Entschleifen(ring, wege, auftrag);
-  Ausduennen(ring, kNullLaenge);
-  return ring;
+Auftrag AlsAuftrag(const GEOM2_Polygon& polygon, const double* abstaende) {
+  return {polygon, abstaende, polygon.GetFlaeche() < 0.0 ? -1 : 1};
 }
 
 }  // namespace
+
+lintavo::Eckenring lintavo::Versetzt(const GEOM2_Polygon& polygon, const double* abstaende,
+                                     Speicher speicher) {
+  const Auftrag auftrag = AlsAuftrag(polygon, abstaende);
+  Eckenring ring = EckenVerschieben(auftrag, true, speicher);
+  if (ring.size() < 3) return {};
+  const Liste<XY> wege = Wege(auftrag, ring);
+  ring = SindKonvex(wege, auftrag.umlauf) ? KonvexEntschleifen(ring, wege, auftrag)
+                                          : Entschleifen(ring, wege, auftrag);
+  Ausduennen(ring, kNullLaenge);
+  return ring;
+}
 
 void GEOM2_Polygon::ParallelPolygon(double d, GEOM2_Polygon& ergebnis) const {
   const std::vector<double> abstaende(ecken_.size(), d);
@@ -315,9 +321,9 @@ void GEOM2_Polygon::ParallelPolygon(double d, GEOM2_Polygon& ergebnis) const {
 bool GEOM2_Polygon::ParallelPolygon(const double* abstaende, GEOM2_Polygon& ergebnis,
                                     bool bereinigen) const {
   lintavo::Arbeitsspeicher speicher;
-  const Auftrag auftrag{*this, abstaende, GetFlaeche() < 0.0 ? -1 : 1};
-  const Eckenring ring =
-      bereinigen ? Versetzen(auftrag, &speicher) : EckenVerschieben(auftrag, false, &speicher);
+  const Eckenring ring = bereinigen
+                             ? lintavo::Versetzt(*this, abstaende, &speicher)
+                             : EckenVerschieben(AlsAuftrag(*this, abstaende), false, &speicher);
   const Liste<GEOM2_Eckpunkt> ecken = AlsEckpunkte(ring, *this);
   ergebnis.Clear();
   if (ecken.size() < 3) return false;

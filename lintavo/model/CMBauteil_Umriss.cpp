@@ -1,5 +1,6 @@
 // The outlines of a component: of one axis segment, and of the whole bar.
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <iterator>
 
@@ -12,7 +13,6 @@ namespace {
 
 using lintavo::Liste;
 
-constexpr int kEckenJeSegment = 4;
 constexpr int kSichtbar = 1;
 constexpr int kUnsichtbar = 0;
 
@@ -27,6 +27,16 @@ struct Segment {
   XY p3;
   XY p4;
   XY richtung;
+};
+
+// Up to four places.
+struct Ecken {
+  std::array<XY, 4> orte;
+  std::size_t anzahl = 0;
+
+  void Anhaengen(const XY& p) { orte[anzahl++] = p; }
+  const XY* begin() const { return orte.data(); }
+  const XY* end() const { return orte.data() + anzahl; }
 };
 
 // How far the section reaches to the right (negative) and left of the axis.
@@ -52,73 +62,116 @@ double Schnittversatz(double v, double winkel) {
   return std::fabs(versatz) < lintavo::kNullLaenge ? 0.0 : versatz;
 }
 
-Segment SegmentVon(const GEOM2_Achse& achse, const Lage& lage) {
-  const double winkel = achse.dWinkel * lintavo::kRadiantJeGrad;
-  const XY richtung{std::cos(winkel), std::sin(winkel)};
-  const auto toPlane = [&](double u, double v) {
-    return XY{achse.Start.x + u * richtung.x - v * richtung.y,
-              achse.Start.y + u * richtung.y + v * richtung.x};
-  };
-  const auto start = [&](double v) { return toPlane(Schnittversatz(v, achse.dWinkelAnfang), v); };
-  const auto end = [&](double v) {
-    return toPlane(achse.dLaenge + Schnittversatz(v, achse.dWinkelEnde), v);
-  };
-  return {start(lage.rechts), end(lage.rechts), end(lage.links), start(lage.links), richtung};
-}
+// Places in the frame of an axis: u along it, v to its left.
+class Achsrahmen {
+ public:
+  explicit Achsrahmen(const GEOM2_Achse& achse)
+      : achse_(achse), winkel_(achse.dWinkel * lintavo::kRadiantJeGrad) {}
 
-// Whether both cuts of a segment aim at p, a corner on its left.
-bool ZieltAuf(const Segment& s, const XY& p) {
-  const auto aufSchnitt = [&](const XY& rechts, const XY& links) {
-    const XY schnitt = lintavo::Einheit(lintavo::Differenz(links, rechts));
-    return std::fabs(lintavo::Kreuzprodukt(schnitt, lintavo::Differenz(p, rechts))) <=
-           lintavo::kNullLaenge;
-  };
-  return aufSchnitt(s.p1, s.p4) && aufSchnitt(s.p2, s.p3);
-}
-
-// The first segment of a row whose left side is there. Those before it have vanished below
-// a wider neighbour of the component: their cuts aim at the corner in which it starts.
-template <class Iterator, class Ecke>
-Iterator ErstesMitSeite(Iterator begin, Iterator end, Ecke ecke) {
-  for (Iterator k = std::next(begin); k != end; ++k) {
-    const XY start = ecke(*k);
-    if (std::all_of(begin, k, [&](const Segment& s) { return ZieltAuf(s, start); })) return k;
+  XY Richtung() const { return {cos_, sin_}; }
+  XY Ort(double u, double v) const {
+    return {achse_.Start.x + u * cos_ - v * sin_, achse_.Start.y + u * sin_ + v * cos_};
   }
-  return begin;
+  XY AmAnfang(double v) const { return Ort(Schnittversatz(v, achse_.dWinkelAnfang), v); }
+  XY AmEnde(double v) const {
+    return Ort(achse_.dLaenge + Schnittversatz(v, achse_.dWinkelEnde), v);
+  }
+
+ private:
+  const GEOM2_Achse& achse_;
+  double winkel_;
+  double cos_ = std::cos(winkel_);
+  double sin_ = std::sin(winkel_);
+};
+
+Segment SegmentVon(const GEOM2_Achse& achse, const Lage& lage) {
+  const Achsrahmen rahmen(achse);
+  return {rahmen.AmAnfang(lage.rechts), rahmen.AmEnde(lage.rechts), rahmen.AmEnde(lage.links),
+          rahmen.AmAnfang(lage.links), rahmen.Richtung()};
+}
+
+// The left side of a segment from its start to its end. A mitre that would be a needle
+// ends before it.
+Ecken LinkeEcken(const GEOM2_Achse& achse, const Lage& lage) {
+  const Achsrahmen rahmen(achse);
+  Ecken ecken;
+  const bool vorn = achse.bLinkeSeite && achse.dTiefeAnfang != 0.0;
+  const bool hinten = achse.bLinkeSeite && achse.dTiefeEnde != 0.0;
+  ecken.Anhaengen(rahmen.AmAnfang(vorn ? achse.dTiefeAnfang : lage.links));
+  if (vorn) ecken.Anhaengen(rahmen.Ort(achse.dWegAnfang, lage.links));
+  if (hinten) ecken.Anhaengen(rahmen.Ort(achse.dLaenge + achse.dWegEnde, lage.links));
+  ecken.Anhaengen(rahmen.AmEnde(hinten ? achse.dTiefeEnde : lage.links));
+  return ecken;
+}
+
+bool IstGekappt(const GEOM2_Achse& achse) {
+  return achse.bLinkeSeite && (achse.dTiefeAnfang != 0.0 || achse.dTiefeEnde != 0.0);
 }
 
 // One long side of a bent component, from its start to its end. The sides of
 // the segments are intersected with their neighbours; where a segment has no
-// room on the inside of the bend, its neighbours meet. Both cuts bound the row.
-Liste<lintavo::Kettenecke> LangeSeite(const Liste<Segment>& segmente, bool links) {
+// room on the inside of the bend, its neighbours meet. Both cuts bound the row. Where the
+// frame's inner contour has no side at all, both cuts lead to one place.
+Liste<XY> LangeSeite(const std::vector<GEOM2_Achse>& achsen, const Liste<Segment>& segmente,
+                     bool links) {
   const auto from = [&](const Segment& s) { return links ? s.p4 : s.p1; };
   const auto to = [&](const Segment& s) { return links ? s.p3 : s.p2; };
   const Segment& first = segmente.front();
   const Segment& last = segmente.back();
-  auto begin = segmente.begin();
-  auto end = segmente.end();
-  if (links) {
-    begin = ErstesMitSeite(segmente.begin(), segmente.end(), from);
-    end = ErstesMitSeite(segmente.rbegin(), segmente.rend(), to).base();
-    if (begin >= end) begin = segmente.begin(), end = segmente.end();
-  }
-
   Liste<lintavo::Kettenseite> seiten(segmente.get_allocator());
   seiten.reserve(segmente.size() + 2);
   seiten.emplace_back(lintavo::Gerade{from(first), lintavo::Differenz(first.p4, first.p1)});
-  for (auto segment = begin; segment != end; ++segment) {
-    seiten.emplace_back(lintavo::Gerade{from(*segment), segment->richtung});
+  for (std::size_t i = 0; i < segmente.size(); ++i) {
+    if (links && !achsen[i].bLinkeSeite) continue;
+    seiten.emplace_back(lintavo::Gerade{from(segmente[i]), segmente[i].richtung});
   }
   seiten.emplace_back(lintavo::Gerade{to(last), lintavo::Differenz(last.p3, last.p2)});
-  return lintavo::OffeneKetteSchneiden(seiten);
+  Liste<XY> ecken(segmente.get_allocator());
+  if (seiten.size() == 2) {
+    ecken.push_back(Achsrahmen(achsen.front()).AmAnfang(achsen.front().dTiefeAnfang));
+    return ecken;
+  }
+  for (const lintavo::Kettenecke& ecke : lintavo::OffeneKetteSchneiden(seiten)) {
+    ecken.push_back(ecke.punkt);
+  }
+  return ecken;
+}
+
+// The left side as the frame's inner contour made it: along each axis from where its start
+// cut ends to where its end cut ends. A place that follows itself is left out.
+Liste<XY> LinkeSeite(const std::vector<GEOM2_Achse>& achsen, const Lage& lage,
+                     lintavo::Speicher speicher) {
+  Liste<XY> ecken(speicher);
+  const auto anhaengen = [&](const XY& p) {
+    if (ecken.empty() || lintavo::Abstand(ecken.back(), p) > lintavo::kNullLaenge) {
+      ecken.push_back(p);
+    }
+  };
+  for (const GEOM2_Achse& achse : achsen) {
+    if (achse.bLinkeSeite) {
+      for (const XY& p : LinkeEcken(achse, lage)) anhaengen(p);
+    } else {
+      anhaengen(Achsrahmen(achse).AmAnfang(achse.dTiefeAnfang));
+    }
+  }
+  return ecken;
 }
 
 // Appends one long side; its last vertex starts the cut that follows it.
 template <class Iterator>
 void AddSeite(Iterator begin, Iterator end, int schnitt, GEOM2_Polygon& umriss) {
   for (Iterator it = begin; it != end; ++it) {
-    umriss.AddPunkt(it->punkt.x, it->punkt.y, 0.0, 0.0, std::next(it) == end ? schnitt : kSichtbar);
+    umriss.AddPunkt(it->x, it->y, 0.0, 0.0, std::next(it) == end ? schnitt : kSichtbar);
   }
+}
+
+template <class Rechts, class Links>
+void AddSeiten(const Rechts& rechts, const Links& links, int schnitt, GEOM2_Polygon& umriss) {
+  umriss.Reservieren(static_cast<int>(std::distance(rechts.begin(), rechts.end()) +
+                                      std::distance(links.begin(), links.end())));
+  AddSeite(rechts.begin(), rechts.end(), schnitt, umriss);
+  AddSeite(std::make_reverse_iterator(links.end()), std::make_reverse_iterator(links.begin()),
+           schnitt, umriss);
 }
 
 }  // namespace
@@ -126,15 +179,15 @@ void AddSeite(Iterator begin, Iterator end, int schnitt, GEOM2_Polygon& umriss) 
 bool CMBauteil::GetUmrissPunkteAchsSegment(long i, GEOM2_Polygon& umriss) const {
   umriss.Clear();
   if (i < 0 || i >= lGetAnzAchsen()) return false;
-  const Segment s = SegmentVon(Achse(i), LageDesSchnitts(lLage, dBreite + dUeberBreite));
+  const Lage lage = LageDesSchnitts(lLage, dBreite + dUeberBreite);
+  const Segment s = SegmentVon(Achse(i), lage);
   // The ends of an outer extra part stand free, those of all other kinds meet
   // their neighbours.
   const int schnitt = IsZusatzteilAussen() ? kSichtbar : kUnsichtbar;
-  umriss.Reservieren(kEckenJeSegment);
-  umriss.AddPunkt(s.p1.x, s.p1.y, 0.0, 0.0, kSichtbar);
-  umriss.AddPunkt(s.p2.x, s.p2.y, 0.0, 0.0, schnitt);
-  umriss.AddPunkt(s.p3.x, s.p3.y, 0.0, 0.0, kSichtbar);
-  umriss.AddPunkt(s.p4.x, s.p4.y, 0.0, 0.0, schnitt);
+  Ecken rechts;
+  rechts.Anhaengen(s.p1);
+  rechts.Anhaengen(s.p2);
+  AddSeiten(rechts, LinkeEcken(Achse(i), lage), schnitt, umriss);
   return true;
 }
 
@@ -147,11 +200,9 @@ bool CMBauteil::GetUmrissPunkte(GEOM2_Polygon& umriss) const {
   segmente.reserve(Achsen.size());
   for (const GEOM2_Achse& achse : Achsen) segmente.push_back(SegmentVon(achse, lage));
 
-  const int schnitt = IsZusatzteilAussen() ? kSichtbar : kUnsichtbar;
-  const Liste<lintavo::Kettenecke> rechts = LangeSeite(segmente, false);
-  const Liste<lintavo::Kettenecke> links = LangeSeite(segmente, true);
-  umriss.Reservieren(static_cast<int>(rechts.size() + links.size()));
-  AddSeite(rechts.begin(), rechts.end(), schnitt, umriss);
-  AddSeite(links.rbegin(), links.rend(), schnitt, umriss);
+  const bool gekappt = std::any_of(Achsen.begin(), Achsen.end(), IstGekappt);
+  AddSeiten(LangeSeite(Achsen, segmente, false),
+            gekappt ? LinkeSeite(Achsen, lage, &speicher) : LangeSeite(Achsen, segmente, true),
+            IsZusatzteilAussen() ? kSichtbar : kUnsichtbar, umriss);
   return true;
 }

@@ -8,6 +8,7 @@
 // _Symbole (opening symbols), _Bild (the picture of one sash).
 #pragma once
 
+#include <memory_resource>
 #include <vector>
 
 #include "lintavo/geom/CMStrecke.h"
@@ -375,7 +376,9 @@ class LINTAVO_API CMFensterSatz {
   void BauteileDenSeitenZuordnen();
   template <class Gilt>
   bool AussenPolygon(Gilt gilt, GEOM2_Polygon& out) const;
-  bool InnenPolygon(bool mitZusatzteilen, const GEOM2_Polygon& polygon, GEOM2_Polygon& out) const;
+  /// How far every side of the frame polygon moves for the inner contour.
+  std::pmr::vector<double> InnenAbstaende(bool mitZusatzteilen,
+                                          std::pmr::polymorphic_allocator<> speicher) const;
   bool SprossenKontur(GEOM2_Polygon& contour) const;
   bool KonturLesen(bool mitZusatzteilen, GEOM2_Polygon& contour) const;
   bool FuellungsKontur(GEOM2_Polygon& contour) const;

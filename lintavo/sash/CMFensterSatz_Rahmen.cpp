@@ -5,6 +5,7 @@
 
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
+#include "lintavo/geom/Versatz_intern.h"
 #include "lintavo/model/CMException.h"
 #include "lintavo/platform/Arbeitsspeicher_intern.h"
 #include "lintavo/resources/StringTable.h"
@@ -81,54 +82,125 @@ double Schnittwinkel(const Seitenpunkt& innenEcke, double u0) {
   return std::atan2(innenEcke.u - u0, innenEcke.v) * 180.0 / lintavo::kPi;
 }
 
-// Where the cuts at both ends of a frame side lead on the inner contour. The
-// two corners are one when the side has vanished inside.
-struct Innenecken {
-  XY anfang;
+// What the inner contour leaves of a frame side.
+struct Innenseite {
+  XY anfang;  // where the cuts at both ends of the frame side lead
   XY ende;
+  XY von;  // the inner side itself: shorter where the mitre limit cuts a corner
+  XY bis;
+  bool vorhanden = false;
 };
 
-// Inner corners of every side of the frame polygon. The second value of each
-// inner vertex names the side that it starts. A side without an inner one has
-// vanished between its neighbours: its cuts aim at the corner in which these
-// meet, which is the end of the last side before it that is still there.
-Liste<Innenecken> InneneckenJeSeite(const GEOM2_Polygon& innen, std::size_t anzahlSeiten,
-                                    lintavo::Speicher speicher) {
-  Liste<Innenecken> ecken(anzahlSeiten, speicher);
-  Liste<bool> vorhanden(anzahlSeiten, false, speicher);
-  for (int j = 0; j < innen.GetAnzahl(); ++j) {
-    const auto seite = static_cast<std::size_t>(innen.GetEckpunkt(j).dWert2);
-    const Seite innenSeite = SeiteVon(innen, j);
-    ecken[seite] = {innenSeite.a, innenSeite.b};
-    vorhanden[seite] = true;
-  }
-  // Once around from a side that is there, so that each vanished one finds the
-  // end of the one before it.
-  const auto first = static_cast<std::size_t>(std::find(vorhanden.begin(), vorhanden.end(), true) -
-                                              vorhanden.begin());
-  for (std::size_t n = 1; n < anzahlSeiten; ++n) {
-    const std::size_t i = (first + n) % anzahlSeiten;
-    const XY ecke = ecken[(i + anzahlSeiten - 1) % anzahlSeiten].ende;
-    if (!vorhanden[i]) ecken[i] = {ecke, ecke};
-  }
-  return ecken;
+// Where the cuts of two parts lead whose corner the mitre limit has cut from a to b: to the
+// cut's nearest place, which is its middle between parts of one width, and its nearer end
+// where it stands in their joint.
+XY ZielDerKappung(const XY& ecke, const XY& a, const XY& b) {
+  const XY weg = lintavo::Differenz(b, a);
+  const double t =
+      lintavo::Skalarprodukt(lintavo::Differenz(ecke, a), weg) / lintavo::Skalarprodukt(weg, weg);
+  return lintavo::Zwischenpunkt(a, b, std::clamp(t, 0.0, 1.0));
 }
 
-// Lays the axis of one frame part along one side, its cuts leading to the
-// inner corners.
-void LegeAchse(CMBauteil& bauteil, const Seite& seite, const Innenecken& ecken) {
+// A side that runs the other way inside is a step that falls the other way there: its part
+// ends in a point, and the step is the end of the deeper one of its neighbours.
+void StufeUmkehren(const lintavo::Eckenring& innen, std::size_t j, const GEOM2_Polygon& rahmen,
+                   Liste<Innenseite>& seiten) {
+  const std::size_t n = innen.size();
+  const lintavo::Ringecke& davor = innen[(j + n - 1) % n];
+  const lintavo::Ringecke& danach = innen[(j + 1) % n];
+  if (davor.kappung || innen[j].kappung || danach.kappung) return;
+  const Seite aussen = SeiteVon(rahmen, innen[j].quelle);
+  const XY weg = lintavo::Differenz(danach.ort, innen[j].ort);
+  if (lintavo::Skalarprodukt(lintavo::Differenz(aussen.b, aussen.a), weg) >= 0.0) return;
+  const Seitenrahmen vorn(SeiteVon(rahmen, davor.quelle));
+  const bool vornTiefer = vorn.Lage(danach.ort).v < vorn.Lage(innen[j].ort).v;
+  const XY ziel = vornTiefer ? danach.ort : innen[j].ort;
+  seiten[static_cast<std::size_t>(davor.quelle)].ende = ziel;
+  seiten[static_cast<std::size_t>(danach.quelle)].anfang = ziel;
+  seiten[static_cast<std::size_t>(innen[j].quelle)] = {ziel, ziel, ziel, ziel};
+}
+
+// A side without an inner one has vanished between its neighbours: its cuts aim at the
+// corner in which these meet, which is the end of the last side before it that is still
+// there.
+void VerschwundeneErgaenzen(Liste<Innenseite>& seiten) {
+  const std::size_t n = seiten.size();
+  // Once around from a side that is there, so that each vanished one finds the
+  // end of the one before it.
+  const auto first = static_cast<std::size_t>(
+      std::find_if(seiten.begin(), seiten.end(),
+                   [](const Innenseite& seite) { return seite.vorhanden; }) -
+      seiten.begin());
+  for (std::size_t k = 1; k < n; ++k) {
+    const std::size_t i = (first + k) % n;
+    const XY ecke = seiten[(i + n - 1) % n].ende;
+    if (!seiten[i].vorhanden) seiten[i] = {ecke, ecke, ecke, ecke};
+  }
+}
+
+// The inner sides of all sides of the frame polygon. Where a corner is cut, the cuts of
+// both its parts aim at one place.
+Liste<Innenseite> InnenseitenVon(const lintavo::Eckenring& innen, const GEOM2_Polygon& rahmen,
+                                 lintavo::Speicher speicher) {
+  const auto anzahlSeiten = static_cast<std::size_t>(rahmen.GetAnzahl());
+  Liste<Innenseite> seiten(anzahlSeiten, speicher);
+  const std::size_t n = innen.size();
+  const auto ziel = [&](std::size_t j) {
+    return ZielDerKappung(lintavo::Ort(rahmen.GetEckpunkt(innen[j % n].quelle)), innen[j % n].ort,
+                          innen[(j + 1) % n].ort);
+  };
+  for (std::size_t j = 0; j < n; ++j) {
+    if (innen[j].kappung) continue;
+    const bool gekapptVorn = innen[(j + n - 1) % n].kappung;
+    const bool gekapptHinten = innen[(j + 1) % n].kappung;
+    const XY von = innen[j].ort;
+    const XY bis = innen[(j + 1) % n].ort;
+    seiten[static_cast<std::size_t>(innen[j].quelle)] = {
+        gekapptVorn ? ziel(j + n - 1) : von, gekapptHinten ? ziel(j + 1) : bis, von, bis, true};
+  }
+  for (std::size_t j = 0; j < n; ++j) StufeUmkehren(innen, j, rahmen, seiten);
+  VerschwundeneErgaenzen(seiten);
+  return seiten;
+}
+
+// One end of a side: where the part's cut ends and where its inner side begins, which is
+// another place where the mitre limit has cut the inner contour's corner.
+void KappungEintragen(const Seitenpunkt& schnittende, const Seitenpunkt& innenende, double& tiefe,
+                      double& weg) {
+  const double abstand = std::hypot(schnittende.u - innenende.u, schnittende.v - innenende.v);
+  if (abstand <= lintavo::kNullLaenge) return;
+  tiefe = schnittende.v;
+  weg = innenende.u;
+}
+
+// Lays the axis of one frame part along one side, its cuts leading to the inner side.
+GEOM2_Achse AchseVon(const Seite& seite, const Innenseite& innen) {
   GEOM2_Achse achse;
   if (!GEOM2_Polygon::SetAchse(seite.a, seite.b, achse)) ThrowRahmenpolygon();
   const Seitenrahmen rahmen(seite);
-  achse.dWinkelAnfang = Schnittwinkel(rahmen.Lage(ecken.anfang), 0.0);
-  achse.dWinkelEnde = Schnittwinkel(rahmen.Lage(ecken.ende), achse.dLaenge);
-  bauteil.AddAchse(achse);
+  const auto vomEnde = [&](const XY& p) {
+    const Seitenpunkt lage = rahmen.Lage(p);
+    return Seitenpunkt{lage.u - achse.dLaenge, lage.v};
+  };
+  achse.dWinkelAnfang = Schnittwinkel(rahmen.Lage(innen.anfang), 0.0);
+  achse.dWinkelEnde = Schnittwinkel(rahmen.Lage(innen.ende), achse.dLaenge);
+  achse.bLinkeSeite = innen.vorhanden;
+  if (innen.vorhanden) {
+    KappungEintragen(rahmen.Lage(innen.anfang), rahmen.Lage(innen.von), achse.dTiefeAnfang,
+                     achse.dWegAnfang);
+    KappungEintragen(vomEnde(innen.ende), vomEnde(innen.bis), achse.dTiefeEnde, achse.dWegEnde);
+  } else {
+    achse.dTiefeAnfang = achse.dTiefeEnde = rahmen.Lage(innen.ende).v;
+  }
+  return achse;
 }
 
 // A straight part whose side vanished inside reaches past its own width, up to
 // the corner in which its neighbours meet.
-void SetzeUeberBreite(CMBauteil& bauteil, const Seite& seite, const Innenecken& ecken) {
-  const double ueberBreite = Seitenrahmen(seite).Lage(ecken.ende).v - bauteil.dBreite;
+void SetzeUeberBreite(CMBauteil& bauteil) {
+  const GEOM2_Achse& achse = bauteil.Achse(0);
+  if (bauteil.lGetAnzAchsen() != 1 || achse.bLinkeSeite) return;
+  const double ueberBreite = achse.dTiefeEnde - bauteil.dBreite;
   if (std::fabs(ueberBreite) >= lintavo::kNullLaenge) bauteil.SetUeberBreite(ueberBreite);
 }
 
@@ -223,18 +295,10 @@ bool CMFensterSatz::ErzeugeRahmenBauteile() {
   BauteileDenSeitenZuordnen();
 
   lintavo::Arbeitsspeicher speicher;
-  Liste<Innenecken> ecken(&speicher);
-  bool seitenVerschwunden = false;
-  {
-    // Every vertex carries its own index through the offset, which tells
-    // afterwards what became of each side.
-    GEOM2_Polygon seiten = RahmenPolygon;
-    for (int i = 0; i < count; ++i) seiten.SetWert2(i, i);
-    GEOM2_Polygon innen;
-    if (!InnenPolygon(false, seiten, innen)) ThrowRahmenpolygon();
-    ecken = InneneckenJeSeite(innen, static_cast<std::size_t>(count), &speicher);
-    seitenVerschwunden = innen.GetAnzahl() != count;
-  }
+  const Liste<double> abstaende = InnenAbstaende(false, &speicher);
+  const lintavo::Eckenring innen = lintavo::Versetzt(RahmenPolygon, abstaende.data(), &speicher);
+  if (innen.size() < 3) ThrowFlaecheNull();
+  const Liste<Innenseite> seiten = InnenseitenVon(innen, RahmenPolygon, &speicher);
 
   for (CMBauteil& bauteil : RahmenTeile) {
     bauteil.DeleteAchsen();
@@ -242,15 +306,11 @@ bool CMFensterSatz::ErzeugeRahmenBauteile() {
     bauteil.SetUeberBreite(0.0);
   }
   for (int i = 0; i < count; ++i) {
-    LegeAchse(*GetBauteilPtr(RahmenPolygon, i), SeiteVon(RahmenPolygon, i),
-              ecken[static_cast<std::size_t>(i)]);
+    const GEOM2_Achse achse =
+        AchseVon(SeiteVon(RahmenPolygon, i), seiten[static_cast<std::size_t>(i)]);
+    GetBauteilPtr(RahmenPolygon, i)->AddAchse(achse);
   }
-  for (int i = 0; seitenVerschwunden && i < count; ++i) {
-    CMBauteil& bauteil = *GetBauteilPtr(RahmenPolygon, i);
-    if (bauteil.lGetAnzAchsen() == 1) {
-      SetzeUeberBreite(bauteil, SeiteVon(RahmenPolygon, i), ecken[static_cast<std::size_t>(i)]);
-    }
-  }
+  for (int i = 0; i < count; ++i) SetzeUeberBreite(*GetBauteilPtr(RahmenPolygon, i));
   return true;
 }
 
@@ -290,22 +350,21 @@ bool CMFensterSatz::ErzeugeRahmenAussenPolygon(GEOM2_Polygon& out, long side) co
 }
 
 bool CMFensterSatz::ErzeugeRahmenInnenPolygon(bool mitZusatzteilen, GEOM2_Polygon& out) const {
-  return InnenPolygon(mitZusatzteilen, RahmenPolygon, out);
+  if (RahmenPolygon.GetAnzahl() < 3) return false;
+  lintavo::Arbeitsspeicher speicher;
+  const Liste<double> abstaende = InnenAbstaende(mitZusatzteilen, &speicher);
+  if (!RahmenPolygon.ParallelPolygon(abstaende.data(), out, true)) ThrowFlaecheNull();
+  return true;
 }
 
-// `polygon` is the frame polygon, or a copy whose vertices carry other values.
-bool CMFensterSatz::InnenPolygon(bool mitZusatzteilen, const GEOM2_Polygon& polygon,
-                                 GEOM2_Polygon& out) const {
-  const int count = polygon.GetAnzahl();
-  if (count < 3) return false;
-  lintavo::Arbeitsspeicher speicher;
-  Liste<double> distances(&speicher);
-  distances.reserve(static_cast<std::size_t>(count));
-  for (int i = 0; i < count; ++i) {
-    distances.push_back(-GetAbstandZurRahmenInnenSeite(mitZusatzteilen, i));
+Liste<double> CMFensterSatz::InnenAbstaende(bool mitZusatzteilen,
+                                            lintavo::Speicher speicher) const {
+  Liste<double> abstaende(speicher);
+  abstaende.reserve(RahmenPolygon.GetEcken().size());
+  for (int i = 0; i < RahmenPolygon.GetAnzahl(); ++i) {
+    abstaende.push_back(-GetAbstandZurRahmenInnenSeite(mitZusatzteilen, i));
   }
-  if (!polygon.ParallelPolygon(distances.data(), out, true)) ThrowFlaecheNull();
-  return true;
+  return abstaende;
 }
 
 double CMFensterSatz::GetAbstandZurRahmenAussenSeite(long side) const {
