@@ -139,23 +139,6 @@ TEST(Zusatzmasz, HostileIndicesAndLengthsEndInMessage49) {
   }
 }
 
-TEST(Zusatzmasz, StretchesMovableCoefficientsAndKeepsFixedOnes) {
-  CMFenster fenster = Raster(2, 1, 50.0, 100.0);
-  fenster.AddZusatzMasz(Masz("Links", true, 0, 1, 50.0));
-  fenster.AddZusatzMasz(Masz("Breite", true, 0, 2, 100.0));
-  CMFensterSatz& rechts = *fenster.GetFluegelPtr(1L);
-  rechts.SetFormBeiwertX(1, 20.0, false);
-  rechts.SetFormBeiwertX(3, 15.0, true);
-  fenster.GetZusatzMaszPtr(1)->dLaenge = 150.0;
-  ASSERT_TRUE(fenster.Berechne(false));
-  // The right sash doubles from 50 to 100 although its neighbour stays.
-  EXPECT_NEAR(rechts.FormBeiwertX[1].dWert, 40.0, 1e-9);
-  EXPECT_NEAR(rechts.FormBeiwertX[3].dWert, 15.0, 1e-9);
-  fenster.GetZusatzMaszPtr(1)->dLaenge = 100.0;
-  ASSERT_TRUE(fenster.Berechne(false));
-  EXPECT_NEAR(rechts.FormBeiwertX[1].dWert, 20.0, 1e-9);
-}
-
 TEST(Zusatzmasz, BetweenCornerPointsMovesTheFrameCorner) {
   CMFenster fenster = Raster(1, 1, 100.0, 80.0);
   CMZusatzMasz masz;

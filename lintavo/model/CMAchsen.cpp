@@ -3,10 +3,10 @@
 #include <cassert>
 #include <cmath>
 
-#include "lintavo/geom/Toleranzen.h"
 #include "lintavo/ini/CIniFile.h"
 #include "lintavo/model/Masze_intern.h"
 #include "lintavo/platform/Grenzen_intern.h"
+#include "lintavo/platform/Numbers_intern.h"
 #include "lintavo/resources/StringTable.h"
 
 namespace {
@@ -15,9 +15,6 @@ using Achsen = std::vector<CMAchsInfo>;
 
 // Greater than any distance between a point and a node.
 constexpr double kKeinKnoten = 1e30;
-
-// Of the sixth decimal, the last one in a file.
-constexpr double kStepsPerUnit = 1e6;
 
 bool IsInList(const Achsen& achsen, int i) {
   return i >= 0 && i < static_cast<int>(achsen.size());
@@ -71,24 +68,10 @@ void ReadAxes(CIniFile& document, lintavo::StringId prefix, Achsen& achsen) {
   }
 }
 
-// A position in steps of the last decimal that files keep. Half a step goes to the even
-// neighbour: an axis that is moved by half a step there and back comes back.
-double InSteps(double position) {
-  const double steps = position * kStepsPerUnit;
-  const double below = std::floor(steps);
-  const double rest = steps - below;
-  if (std::fabs(rest - 0.5) > lintavo::kRechenrauschen * kStepsPerUnit) return std::round(steps);
-  return std::fabs(std::fmod(below, 2.0)) > 0.5 ? below + 1.0 : below;
-}
-
 // The distance to be written. It is the difference of positions that are rounded, so that
 // the sum over any number of axes is as exact as a single one.
 double WrittenDistance(const Achsen& achsen, int i) {
-  const double before = InSteps(Position(achsen, i - 1));
-  const double steps = InSteps(Position(achsen, i)) - before;
-  // Where steps are no whole numbers any more, or none at all, nothing is rounded.
-  const bool exact = std::fabs(Position(achsen, i)) <= lintavo::kGroessteKoordinate;
-  return exact ? steps / kStepsPerUnit : DistanceToPrevious(achsen, i);
+  return lintavo::AsWritten(Position(achsen, i)) - lintavo::AsWritten(Position(achsen, i - 1));
 }
 
 void SaveAxes(CIniFile& document, lintavo::StringId prefix, const Achsen& achsen) {

@@ -2,8 +2,9 @@
 //
 // Sources by theme: CMFenster.cpp (lists, state), _Datei (macro file),
 // _Berechnung (the calculation), _Pfosten (mullions and transoms),
-// _Masze (dimensions that drive the grid), _Raster (the grid of a saved window), _Zeichnung (sizes,
-// dimension lines and symbols), _Ansicht (the front view with hidden lines removed).
+// _Masze (dimensions that drive the grid), _Raster (the grid of a saved window),
+// _Schraegen (slanted edges that follow the grid), _Zeichnung (sizes, dimension lines and
+// symbols), _Ansicht (the front view with hidden lines removed).
 #pragma once
 
 #include <memory>
@@ -208,7 +209,8 @@ class LINTAVO_API CMFenster {
   /// direction, both on the grid, in the order of the length's sign.
   bool ZusatzMaszVerbinden(CMZusatzMasz& masz) const;
   /// Makes the span from axis i1 to axis i2 equal `dSoll`, spreading the change
-  /// evenly over movable axes between them; i1 and i2 are fixed afterwards. False
+  /// evenly over movable axes between them; i1 and i2 are fixed afterwards. The movable
+  /// coefficients of every sash whose extent changes grow with it. False
   /// when i2 is fixed already, i1 equals i2, or no dimension is given. A length
   /// below 1e-6 changes nothing and is no failure; nor does a change of up to 2e-6 where
   /// length and axes have six decimals, since files round them. No such change is spread.
@@ -217,7 +219,9 @@ class LINTAVO_API CMFenster {
   /// axes keep their positions. Throws 49 with `name` when `iAchse` is not an
   /// axis or the shift is not finite or beyond 1e9.
   void AchseVerschieben(bool bVerti, int iVon, int iAchse, double dWert, const CString& name);
-  /// Applies all dimensions to the axes. Returns the first that cannot be
+  /// Applies all dimensions to the axes. The movable coefficients of every sash whose
+  /// extent changes grow with it; then those between the ends of a straight slope over
+  /// several sashes are set so that it stays straight. Returns the first that cannot be
   /// applied, or null. Throws 49, naming the dimension, when axes in use end up
   /// in the wrong order.
   CMZusatzMasz* ZusatzMaszAchsVerschiebungen();
@@ -340,7 +344,8 @@ class LINTAVO_API CMFenster {
   void RasterAnDenUrsprung();
   void SenkeKnoten(long dj, long dk) noexcept;
   void Verschiebe(double dx, double dy) noexcept;
-  void FluegelFormBeiwerteAnpassen(bool bVerti, long i1, long i2, const CMAchsen& before);
+  void FluegelFormBeiwerteAnpassen(const CMAchsen& before);
+  bool AchsAbstandSetzen(const CMZusatzMasz* masz, long i1, long i2, double dSoll);
   CMZusatzMasz* AchsenNachMaszenSetzen();
   bool AchsenNachMaszSetzen(const CMZusatzMasz& masz);
   void AchsenNachfuehren(const CMAchsen& before);

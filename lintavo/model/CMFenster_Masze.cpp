@@ -240,6 +240,13 @@ bool CMFenster::ZusatzMaszVerbinden(CMZusatzMasz& masz) const {
 }
 
 bool CMFenster::NeuenAchsAbstandSetzen(const CMZusatzMasz* masz, long i1, long i2, double dSoll) {
+  const CMAchsen before = achsen_;
+  if (!AchsAbstandSetzen(masz, i1, i2, dSoll)) return false;
+  FluegelFormBeiwerteAnpassen(before);
+  return true;
+}
+
+bool CMFenster::AchsAbstandSetzen(const CMZusatzMasz* masz, long i1, long i2, double dSoll) {
   if (i1 == i2) return false;
   if (std::fabs(dSoll) < lintavo::kNullLaenge) return true;
   if (!masz) return false;
@@ -252,7 +259,6 @@ bool CMFenster::NeuenAchsAbstandSetzen(const CMZusatzMasz* masz, long i1, long i
   Fix(achsen_, bVerti, von);
   if (IsFixed(achsen_, bVerti, nach)) return false;
 
-  const CMAchsen before = achsen_;
   const double eff = achsen_.dGetEffVersch(bVerti, von, nach, dSoll);
   // What files round is no shift that anybody asked for: spread over the axes, and these
   // rounded again, it would move them at every reading.
@@ -275,7 +281,6 @@ bool CMFenster::NeuenAchsAbstandSetzen(const CMZusatzMasz* masz, long i1, long i
                         IsDateizahl(Position(achsen_, bVerti, nach));
   if (spreads || !ausDatei) AchseVerschieben(bVerti, von, nach, dSoll, masz->strName);
   Fix(achsen_, bVerti, nach);
-  if (spreads) FluegelFormBeiwerteAnpassen(bVerti, i1, i2, before);
   return true;
 }
 
@@ -293,25 +298,6 @@ void CMFenster::AchseVerschieben(bool bVerti, int iVon, int iAchse, double dWert
   const bool isLast = iAchse + 1 >= AxisCount(achsen_, bVerti);
   if (!isLast) AddToDistance(achsen_, bVerti, iAchse + 1, -missing);
   AddToDistance(achsen_, bVerti, iAchse, missing);
-}
-
-// Stretches the shapes of the sashes within a span whose length has changed. A
-// sash reckons with its change per axis interval; how much of the change fell
-// to it follows from the grid as it was.
-void CMFenster::FluegelFormBeiwerteAnpassen(bool bVerti, long i1, long i2, const CMAchsen& before) {
-  const long low = std::min(i1, i2);
-  const long high = std::max(i1, i2);
-  for (const auto& fluegel : fluegel_) {
-    const int a = IndexOf(fluegel->Knoten1, bVerti);
-    const int b = IndexOf(fluegel->Knoten2, bVerti);
-    if (std::min(a, b) < low || std::max(a, b) > high || a == b) continue;
-    const double extent =
-        Position(achsen_, bVerti, std::max(a, b)) - Position(achsen_, bVerti, std::min(a, b));
-    const double extentBefore =
-        Position(before, bVerti, std::max(a, b)) - Position(before, bVerti, std::min(a, b));
-    fluegel->FormBeiwerteAnpassen(bVerti, achsen_, i1, i2,
-                                  (extent - extentBefore) / std::abs(b - a));
-  }
 }
 
 CMZusatzMasz* CMFenster::ZusatzMaszAchsVerschiebungen() {
@@ -344,12 +330,14 @@ CMZusatzMasz* CMFenster::AchsenNachMaszenSetzen() {
   return nullptr;
 }
 
-// Lets mullions, transoms and corner points follow axes that have moved.
+// Lets shapes, mullions, transoms and corner points follow axes that have moved. Shapes
+// reckon from before all dimensions to after all: an extent may vanish on the way.
 void CMFenster::AchsenNachfuehren(const CMAchsen& before) {
   if (Positions(achsen_, false) == Positions(before, false) &&
       Positions(achsen_, true) == Positions(before, true)) {
     return;
   }
+  FluegelFormBeiwerteAnpassen(before);
   Invalidiere();
   EckpunktKnotenNachfuehren(before);
 }
@@ -363,8 +351,8 @@ bool CMFenster::AchsenNachMaszSetzen(const CMZusatzMasz& masz) {
   const bool horizontal = masz.IsHorizonal();
   const auto setSpan = [&](const CMKnoten& end, double length) {
     if (!end.IsAufAchse()) return true;
-    return NeuenAchsAbstandSetzen(&masz, IndexOf(masz.kKnoten1, horizontal),
-                                  IndexOf(end, horizontal), length);
+    return AchsAbstandSetzen(&masz, IndexOf(masz.kKnoten1, horizontal), IndexOf(end, horizontal),
+                             length);
   };
   if (!masz.IsZentrisch()) return setSpan(masz.kKnoten2, masz.dLaenge);
   return setSpan(masz.kKnoten2, -masz.dLaenge / 2.0) && setSpan(masz.kKnoten3, masz.dLaenge / 2.0);

@@ -120,6 +120,27 @@ double ParseNumber(std::string_view text) {
   return negative ? -*value : *value;
 }
 
+double AsWritten(double value) {
+  constexpr double kSteps = 1e6;
+  constexpr double kBound = 1e9;
+  constexpr double kNoise = 1e-3;  // of a step
+  if (!(std::fabs(value) <= kBound)) return value;
+  const double steps = value * kSteps;
+  const double below = std::floor(steps);
+  if (std::fabs(steps - below - 0.5) > kNoise) return std::round(steps) / kSteps;
+  return (std::fabs(std::fmod(below, 2.0)) > 0.5 ? below + 1.0 : below) / kSteps;
+}
+
+double ShortNumberWithin(double value, double tolerance) {
+  constexpr double kMaxSteps = 1e4;
+  constexpr double kChance = 0.05;  // of the distance between two such numbers
+  for (double steps = 1.0; steps <= kMaxSteps && tolerance * steps < kChance; steps *= 10.0) {
+    const double number = std::round(value * steps) / steps;
+    if (std::fabs(number - value) <= tolerance) return number;
+  }
+  return value;
+}
+
 CString FormatNumber(double value) {
   if (IsPlainWhole(value)) return FormatWhole(lintavo::Truncate<long long>(value));
   // The largest double has 309 digits before the point.

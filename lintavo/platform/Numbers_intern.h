@@ -22,6 +22,14 @@ double ParseNumber(std::string_view text);
 /// the rounding ("-0").
 CString FormatNumber(double value);
 
+/// The value rounded to the six decimals of files; beyond 1e9 the value itself. Half a step
+/// goes to the even neighbour: what moves by half a step there and back comes back.
+double AsWritten(double value);
+
+/// The number of fewest decimals, at most four, that lies within `tolerance` of the value;
+/// the value itself where there is none, or would be by mere chance.
+double ShortNumberWithin(double value, double tolerance);
+
 /// The value without its decimals, moved to the nearest bound of the type when
 /// it lies beyond; 0 for a value that is no number.
 template <typename Integer>

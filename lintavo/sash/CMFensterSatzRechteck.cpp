@@ -6,6 +6,7 @@
 #include "lintavo/geom/Vektor_intern.h"
 #include "lintavo/ini/CIniFile.h"
 #include "lintavo/model/CMAchsen.h"
+#include "lintavo/platform/Numbers_intern.h"
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/Grundform_intern.h"
 
@@ -14,6 +15,8 @@ namespace {
 constexpr int kAnzahlEcken = 4;
 // A flag is a number in the file; above this it is set.
 constexpr double kFlagGesetzt = 0.1;
+// What a file may round off a coefficient: half of its last decimal.
+constexpr double kDateistelle = 0.5e-6 + lintavo::kRechenrauschen;
 // Corners closer than this are one.
 constexpr double kEckenBereinigung = lintavo::kKurzeKante;
 
@@ -58,9 +61,15 @@ void AddEcke(const Ecke& ecke, double x, double y, GEOM2_Polygon& outline) {
   if (!ecke.senkrechtZuerst) outline.AddPunkt(ecke.ort.x, yInnen);
 }
 
+// What a file has rounded off, growing makes larger: a value that had few decimals before
+// it shrank has them again, so that there and back is the same.
 void Strecke(FormBeiwert (&beiwerte)[kAnzahlEcken], double faktor) {
   for (FormBeiwert& beiwert : beiwerte) {
-    if (!beiwert.bFest) beiwert.dWert *= faktor;
+    if (beiwert.bFest) continue;
+    beiwert.dWert *= faktor;
+    if (faktor > 1.0) {
+      beiwert.dWert = lintavo::ShortNumberWithin(beiwert.dWert, kDateistelle * faktor);
+    }
   }
 }
 
