@@ -272,5 +272,50 @@ TEST(Schraege, StaysStraightFromACutCornerOn) {
   EXPECT_EQ(Unterschied(fenster, zeilen), "");
 }
 
+// An arch 120 wide and 150 high on a springing line at 110; a dimension of 100 from the
+// ground sets that, for one arch and for the pieces of a shared one.
+TEST(Kaempfer, ADimensionGoesOnDrivingTheRiseWhateverMovesTheLine) {
+  for (const bool geteilt : {false, true}) {
+    CMFenster fenster = Raster(2, 1, 60.0, 150.0);
+    fenster.DeleteFluegel(1);
+    fenster.DeleteFluegel(0);
+    fenster.GetRahmenPtr()->SetRahmenDefaults(7.0, 6.8, 0.0, 1, 2);
+    std::vector<CMFensterSatz*> boegen;
+    for (const int j : geteilt ? std::vector<int>{1, 0} : std::vector<int>{0}) {
+      boegen.push_back(
+          fenster.AddFluegel(eFormBogen, 0, {j, 0}, {geteilt ? j + 1 : 2, 1}, {0, 0}, {2, 0}));
+      boegen.back()->SetRahmenDefaults(7.8, 6.8, 1.5, 1, 3);
+      boegen.back()->dStich = 40.0;
+    }
+    AddMasz(fenster, "Kaempfer", false, 0, 1);
+    fenster.GetZusatzMaszPtr(0)->kKnoten1.SetEckpu(0, 0, 0.0, 0.0);
+    fenster.GetZusatzMaszPtr(0)->kKnoten2.SetEckpu(0, 0, 0.0, 110.0);
+    AddMasz(fenster, "Breite", true, 0, 2);
+    AddMasz(fenster, "Hoehe", false, 0, 1);
+    SetzeLaengen(fenster, {100.0, 120.0, 150.0});
+    const std::vector<std::string> zeilen = Zeilen(fenster);
+    // Height, width and springing line, then the rise: half the width is the most.
+    for (const auto& [hoehe, breite, kaempfer, stich] :
+         std::vector<std::array<double, 4>>{{130, 120, 100, 30},
+                                            {140.5, 133, 100, 40.5},
+                                            {157, 120, 100, 57},
+                                            {160, 100, 100, 50},
+                                            {150, 80, 100, 40},
+                                            {150, 120, 97, 53},
+                                            {155, 160, 155, 0}}) {
+      // A piece of an arch cannot rise by more than it is wide.
+      if (geteilt && hoehe - kaempfer > breite / 2.0) continue;
+      SetzeLaengen(fenster, {kaempfer, breite, hoehe});
+      for (const CMFensterSatz* bogen : boegen) EXPECT_NEAR(bogen->dStich, stich, 1e-9) << hoehe;
+      const std::vector<std::string> dort = Zeilen(fenster);
+      ASSERT_TRUE(fenster.Berechne(false));
+      EXPECT_EQ(Unterschied(fenster, dort), "") << "calculated again";
+      // It has not given up where the calculation fails.
+      SetzeLaengen(fenster, {100.0, 120.0, 150.0});
+      EXPECT_EQ(Unterschied(fenster, zeilen), "");
+    }
+  }
+}
+
 }  // namespace
 }  // namespace lintavo::test

@@ -3,8 +3,9 @@
 // Sources by theme: CMFenster.cpp (lists, state), _Datei (macro file),
 // _Berechnung (the calculation), _Pfosten (mullions and transoms),
 // _Masze (dimensions that drive the grid), _Raster (the grid of a saved window),
-// _Schraegen (slanted edges that follow the grid), _Zeichnung (sizes, dimension lines and
-// symbols), _Ansicht (the front view with hidden lines removed).
+// _Schraegen (slanted edges that follow the grid), _Stich (dimensions that follow springing
+// lines), _Zeichnung (sizes, dimension lines and symbols), _Ansicht (the front view with
+// hidden lines removed).
 #pragma once
 
 #include <memory>

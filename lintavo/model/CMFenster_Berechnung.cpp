@@ -4,6 +4,7 @@
 #include "lintavo/geom/PolygonVereinigung.h"
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/model/CMFenster.h"
+#include "lintavo/model/CMFenster_Stich_intern.h"
 #include "lintavo/model/Fehler_intern.h"
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/Auflager_intern.h"
@@ -38,11 +39,15 @@ void CMFenster::Rechne(bool bPfostenRiegelAutomatisch) {
 
   std::vector<GEOM2_Polygon> grundformen;
   double extrem = -lintavo::kLeereBox;
-  GetFluegelGrundformen(grundformen, extrem);
+  const auto formen = [&] {
+    const lintavo::TiedSpringingLines springingLines(*this, achsen_);
+    GetFluegelGrundformen(grundformen, extrem);
+  };
+  formen();
   rahmen_.SetName(lintavo::Text(StringId::Rahmen));
   RahmenUmrissBilden(grundformen);
   if (FluegelStichAnpassung(grundformen)) {
-    GetFluegelGrundformen(grundformen, extrem);
+    formen();
     RahmenUmrissBilden(grundformen);
   }
   ThrowIfFailed(ZusatzMaszRahmenEckenVerschiebungen(grundformen));

@@ -7,6 +7,7 @@
 #include "lintavo/geom/Vektor_intern.h"
 #include "lintavo/model/Achsbereich_intern.h"
 #include "lintavo/model/CMFenster.h"
+#include "lintavo/model/CMFenster_Stich_intern.h"
 #include "lintavo/resources/StringTable.h"
 
 using lintavo::StringId;
@@ -337,6 +338,7 @@ void CMFenster::AchsenNachfuehren(const CMAchsen& before) {
       Positions(achsen_, true) == Positions(before, true)) {
     return;
   }
+  const lintavo::TiedSpringingLines springingLines(*this, before);
   FluegelFormBeiwerteAnpassen(before);
   Invalidiere();
   EckpunktKnotenNachfuehren(before);
@@ -396,6 +398,8 @@ bool CMFenster::EckenNachMaszSetzen(const CMZusatzMasz& masz, const GEOM2_Polygo
     const XY span = lintavo::Differenz(NodePosition(achsen_, end), start);
     const double missing = length - (masz.IsHorizonal() ? span.x : span.y);
     if (std::fabs(missing) <= lintavo::kDateirundung) return true;
+    // The rise that such a dimension asks for is more than the arch can have.
+    if (lintavo::EndsOnSpringingLine(*this, masz)) return true;
     const bool endMoves = !end.IsAufAchse();
     const CMKnoten& knoten = endMoves ? end : masz.kKnoten1;
     const double shift = endMoves ? missing : -missing;
