@@ -1,10 +1,12 @@
 // Laws of saving: opened and saved any number of times a window stays, at most moved.
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <string>
 
 #include <gtest/gtest.h>
 
+#include "lintavo/api/CFeApi.h"
 #include "lintavo/ini/CIniFile.h"
 
 #include "support/Beispiele.h"
@@ -80,7 +82,34 @@ std::string Unterschied(const std::vector<std::string>& a, const std::vector<std
   return text;
 }
 
+// Saved and opened again, in one way or another.
+bool Gelesen(int weg, const std::string& path, CMFenster& fenster) {
+  if (weg % 3 == 0) return Lies(Zeilen(fenster), fenster);
+  if (weg % 3 == 1) {
+    return fenster.SaveToFile(path.c_str()) && fenster.ReadFromFile(path.c_str()) &&
+           fenster.Berechne(false);
+  }
+  CFeApi api;
+  char* block = nullptr;
+  long laenge = 0;
+  api.SetFenster(fenster);
+  api.WriteToBuffer(&laenge, &block);
+  const bool gelesen = api.ReadFromBuffer(laenge, block) == 1;
+  api.FreeBuffer(&block);
+  return gelesen && api.WriteToFile(path.c_str()) == 1 && fenster.ReadFromFile(path.c_str()) &&
+         fenster.Berechne(false);
+}
+
+bool HatBeweglicheBeiwerte(const Fensterentwurf& entwurf) {
+  return std::any_of(entwurf.fluegel.begin(), entwurf.fluegel.end(), [](const auto& fluegel) {
+    const auto beweglich = [](const Beiwertentwurf& beiwert) { return !beiwert.fest; };
+    return std::any_of(std::begin(fluegel.beiwertX), std::end(fluegel.beiwertX), beweglich) ||
+           std::any_of(std::begin(fluegel.beiwertY), std::end(fluegel.beiwertY), beweglich);
+  });
+}
+
 TEST(Dateigesetze, TenCyclesOfSavingAndOpeningKeepTheBytes) {
+  const Ordner ordner;
   int berechnet = 0;
   JedesFenster([&](const Fensterentwurf& entwurf, CMFenster&) {
     Wuerfel wuerfel(entwurf.seed);
@@ -88,13 +117,50 @@ TEST(Dateigesetze, TenCyclesOfSavingAndOpeningKeepTheBytes) {
     CMFenster fenster = Gelesen(krumm);
     if (!fenster.Berechne(krumm.pfostenAutomatisch)) return;
     ++berechnet;
+    fenster.AchsRasterOptimieren();
     const std::vector<std::string> zeilen = Zeilen(fenster);
     for (int i = 0; i < 10; ++i) {
-      ASSERT_TRUE(Lies(zeilen, fenster)) << i;
+      ASSERT_TRUE(Gelesen(i, ordner / "f.aqz", fenster)) << i;
       ASSERT_EQ(Unterschied(zeilen, Zeilen(fenster)), "") << i;
     }
   });
-  EXPECT_GT(berechnet, 0);
+  EXPECT_GT(berechnet, 100);
+}
+
+// There and back, ten times. Left out is what follows a size by rules of its own: movable
+// coefficients, a fitted rise, what a calculation sets by itself, and bars, which are cut.
+TEST(Dateigesetze, TenFitsThereAndBackKeepTheBytes) {
+  JedesFenster([&](const Fensterentwurf& entwurf, CMFenster&) {
+    if (HatBeweglicheBeiwerte(entwurf) || entwurf.stichBewegt || entwurf.pfostenAutomatisch) return;
+    Wuerfel wuerfel(entwurf.seed);
+    const double faktor = std::pow(10.0, wuerfel.Laenge(-2.0, 2.0));
+    CMFenster fenster = Gelesen(Vergroeszert(entwurf, faktor));
+    double b = 0.0;
+    double h = 0.0;
+    if (!fenster.Berechne(false)) return;
+    for (long i = 0; i < fenster.GetAnzahlFluegel(); ++i) {
+      fenster.GetFluegelPtr(i)->DeleteAlleSprossen();
+    }
+    ASSERT_TRUE(Lies(Zeilen(fenster), fenster));
+    std::vector<std::string> zeilen;
+    // Lengths of six decimals; a file would round others, every time anew.
+    ASSERT_TRUE(Gesamtmasze(fenster, b, h));
+    const auto genau = [](double laenge) { return std::round(laenge * 1e6) / 1e6; };
+    const double breiter = genau(b * wuerfel.Zahl(1'000'000, 1'300'000) * 1e-6);
+    const double hoeher = genau(entwurf.eckenBewegt ? h + faktor : h + (breiter - b) / 2.0);
+    for (const bool gespeichert : {false, true}) {
+      for (int i = 0; i < 10; ++i) {
+        ASSERT_TRUE(Einpassen(fenster, breiter, hoeher));
+        ASSERT_TRUE(!gespeichert || Lies(Zeilen(fenster), fenster));
+        ASSERT_TRUE(Einpassen(fenster, b, h));
+        ASSERT_TRUE(!gespeichert || Lies(Zeilen(fenster), fenster));
+        // The first fit sets exactly what a file had rounded; once saved on the way, half of
+        // a last decimal may go to the other side.
+        if (i < 2) zeilen = Zeilen(fenster);
+        ASSERT_EQ(Unterschied(zeilen, Zeilen(fenster)), "") << gespeichert << ' ' << i;
+      }
+    }
+  });
 }
 
 // --- saving moves the window at most ------------------------------------------------
