@@ -537,24 +537,25 @@ TEST_P(Rundweg, ASavedPositionReadsBack) {
 
 INSTANTIATE_TEST_SUITE_P(Position, Rundweg, testing::ValuesIn(BeispielNamen()), BeispielTestName);
 
-TEST_F(Position, OuterPartsOfTheFormStandForThoseOfTheTemplate) {
+TEST_F(Position, EveryOuterPartOfTheFileIsAddedToThoseOfTheTemplate) {
   Vorlage("T", Inhalt(BeispielPfad("sprossen_und_zusatzteile.aqz")));
+  CMFensterPosition ohne;
+  ASSERT_TRUE(Lies(ohne, "[Allgemeines]\nTyp=T\n"));
   CMFensterPosition position;
-  ASSERT_TRUE(Lies(position,
-                   "[Allgemeines]\nTyp=T\n[Rahmen]\nZ1=1,30,0,1,2,1,2,0,1\nZ2=1,50,0,1,2,1,2,4,4\n"
-                   "Z3=2,0,0,1,2,1,2,3,3\nZ4=3,200,0,1,2,1,2,4,4\nZ5=4,40,0,1,2,1,2,3,3\n"
-                   "Z6=2,60,0,1,2,1,2,3,3\n"))
+  ASSERT_TRUE(Lies(
+      position, "[Allgemeines]\nTyp=T\n[Rahmen]\nZ1=2,60,50,1,2,1,2,3,3\nZ2=4,10,0,1,2,1,2,4,4\n"))
       << Fehlertext(position);
+  const std::vector<CMBauteil>& vorher = ohne.GetFensterPtr()->GetRahmenPtr()->EinzelTeile;
   const std::vector<CMBauteil>& teile = position.GetFensterPtr()->GetRahmenPtr()->EinzelTeile;
-  ASSERT_EQ(teile.size(), 1U + 5U + 1U);  // mullion, template's parts, the new one
-  EXPECT_DOUBLE_EQ(teile[2].dBreite, 5.0);
-  EXPECT_DOUBLE_EQ(teile[2].dDicke, 22.0);  // not in the form, so the template's
-  EXPECT_FALSE(teile[3].IsVorhanden());
-  EXPECT_DOUBLE_EQ(teile[6].dBreite, 6.0);
+  ASSERT_EQ(teile.size(), vorher.size() + 2U);
+  for (std::size_t i = 0; i < vorher.size(); ++i) EXPECT_EQ(teile[i].dBreite, vorher[i].dBreite);
+  const CMBauteil& neu = teile[vorher.size()];
+  EXPECT_EQ(Angaben(neu), (Liste{6.0, 5.0, 6.8, 2, 2, 1, 1}));
   XY size;
-  position.GetFensterPtr()->GetSize(size);
-  EXPECT_NEAR(size.x, 4 + 160 + 6, 1e-9);
-  EXPECT_NEAR(size.y, 3 + 5 + 140 + 20, 1e-9);
+  XY groesser;
+  ohne.GetFensterPtr()->GetSize(size);
+  position.GetFensterPtr()->GetSize(groesser);
+  EXPECT_NEAR(groesser.x, size.x + 6 + 1, 1e-9);
 }
 
 TEST_F(Position, TextsAreOneLineInTheFile) {

@@ -150,7 +150,8 @@ class LINTAVO_API CMFensterSatz {
   bool ReadGangartFromIniFile(const CString& section, CIniFile& document);
   bool SaveGangartToIniFile(CString& section, CIniFile& document) const;
   /// Writes the components into a blank parameter form, lengths times ten:
-  /// `lArt` 0 the window's frame ("R" and "Z" lists), 1 a sash ("F" lists).
+  /// `lArt` 0 the window's frame ("R" lists), 1 a sash ("F" lists). Outer extra parts are
+  /// left out: every "Z" list that is read adds one to those that the type has.
   void SaveBauteileToParameterFormular(long lArt, const CString& section, CIniFile& document) const;
 
   // --- frame polygon, frame parts and contours -------------------------------

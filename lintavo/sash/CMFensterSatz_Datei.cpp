@@ -361,15 +361,6 @@ void CMFensterSatz::SaveBauteileToParameterFormular(long lArt, const CString& se
     if (bauteil.GetAchsLaenge() < lintavo::kNullLaenge) continue;
     schreiber.Zahlen(NumberedName(prefix, nummer), FormularFelder(bauteil, felder));
   }
-  if (!rahmen) return;
-
-  nummer = 0;
-  for (const CMBauteil& bauteil : EinzelTeile) {
-    if (!bauteil.IsZusatzteilAussen() || !HatBreite(bauteil)) continue;
-    std::vector<double> werte = FormularFelder(bauteil, feld::kFormularZusatzteil);
-    werte.front() += 1.0;
-    schreiber.Zahlen(NumberedName(StringId::PraefixZ, ++nummer), werte);
-  }
 }
 
 void CMFensterSatz::ReadBogenFromIniFile(const CString& section, CIniFile& document) {

@@ -72,35 +72,16 @@ void ReadRahmendicke(CIniFile& document, const CString& section, CMFensterSatz& 
   }
 }
 
-// The outer extra parts that a parameter form lists, in its order.
-std::vector<std::size_t> AussenTeile(const std::vector<CMBauteil>& liste) {
-  std::vector<std::size_t> plaetze;
-  for (std::size_t i = 0; i < liste.size(); ++i) {
-    if (liste[i].IsZusatzteilAussen() && liste[i].dBreite >= lintavo::kNullLaenge) {
-      plaetze.push_back(i);
-    }
-  }
-  return plaetze;
-}
-
-// The first lists stand for the parts that the template has, as the form wrote
-// them; further ones are new parts. Otherwise a form that comes back unchanged
-// would double its parts.
+// Every list is one more outer extra part, beside those that the template has.
 void ReadAussenTeile(CIniFile& document, const CString& section, CMFensterSatz& rahmen) {
-  const std::vector<std::size_t> vorhanden = AussenTeile(rahmen.EinzelTeile);
-  for (std::size_t i = 0; i < lintavo::kMaxParameter; ++i) {
+  for (long i = 1; i <= lintavo::kMaxParameter; ++i) {
     CMBauteil bauteil = rahmen.RahmenVorlage;
-    if (i < vorhanden.size()) bauteil = rahmen.EinzelTeile[vorhanden[i]];
     bauteil.lTyp = eZusatzteilAussen;
-    const CString key = NumberedName(StringId::PraefixZ, static_cast<long>(i) + 1);
+    const CString key = NumberedName(StringId::PraefixZ, i);
     if (!ReadBauteil(document, section, key, feld::kFormularZusatzteil, bauteil)) return;
     // Sides count from 1 here. Side 0 is none.
     bauteil.lSeite = std::max(bauteil.lSeite, 0L) - 1;
-    if (i < vorhanden.size()) {
-      rahmen.EinzelTeile[vorhanden[i]] = bauteil;
-    } else {
-      rahmen.EinzelTeile.push_back(bauteil);
-    }
+    rahmen.EinzelTeile.push_back(bauteil);
   }
 }
 
