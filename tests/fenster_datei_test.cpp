@@ -201,6 +201,25 @@ TEST(Makrodatei, NoTextBringsLinesOfItsOwn) {
   }
 }
 
+TEST(Makrodatei, TheLastDotOfThePathTellsWhetherThereIsAForm) {
+  const Ordner ordner;
+  const CMFenster fenster = Raster(1, 1, 100.0, 80.0);
+  const struct {
+    const char* makro;
+    const char* formular;
+  } kFaelle[] = {{"Ab.C/Punktlos", "Ab.C/punkttxt"},
+                 {"Ab.C/ab", "Ab.C/txt"},
+                 {"Ab.C/Name.XY", "Ab.C/nametxt"},
+                 {"Ab.C/Name.lang", "Ab.C/name.ltxt"}};
+  for (const auto& fall : kFaelle) {
+    std::filesystem::create_directories(ordner / "Ab.C");
+    EXPECT_TRUE(CMFenster(fenster).SaveToFile(true, (ordner / fall.makro).c_str()));
+    EXPECT_TRUE(std::filesystem::exists(ordner / fall.makro)) << fall.makro;
+    EXPECT_TRUE(std::filesystem::exists(ordner / fall.formular)) << fall.makro;
+    std::filesystem::remove_all(ordner / "Ab.C");
+  }
+}
+
 TEST(Makrodatei, SavingDropsUnusedAxesAndBringsTheFirstUsedOneToZero) {
   CMFenster fenster = Raster(4, 2, 50.0, 60.0);
   while (fenster.GetAnzahlFluegel() > 0) fenster.DeleteFluegel(0);

@@ -150,7 +150,8 @@ class LINTAVO_API CMFenster {
   /// grid that begins elsewhere, and with it all coordinates, is written moved. Always true.
   bool SaveToBuffer(CIniFile& document) const;
   /// Compacts the grid and writes the macro file, and beside it on request the
-  /// blank parameter form (same name in lower case, ending in txt). False when
+  /// blank parameter form (same name in lower case, its last three characters replaced by
+  /// txt; none for a path without a dot behind its second character). False when
   /// the path is empty or a file cannot be written; the window is then as it was, its grid
   /// included.
   bool SaveToFile(const CString& path);

@@ -100,17 +100,17 @@ int LastSeparator(const CString& path) {
   return std::max(path.ReverseFind('/'), path.ReverseFind('\\'));
 }
 
-// The name of the parameter form beside a macro file: the file's name in lower
-// case, its last three characters replaced. The folder keeps its case, since
-// folders may tell cases apart. Empty for a name without an ending.
+// The name of the parameter form beside a macro file: the file's name in lower case, its
+// last three characters replaced, whatever they are. The folder keeps its case, since
+// folders may tell cases apart. Empty where no dot stands behind the second character; one
+// in a folder's name counts, on purpose: forms beside files without an ending rest on it.
 CString FormularPfad(const CString& path) {
   constexpr int kEndung = 3;
+  if (path.ReverseFind('.') <= 1) return CString();
   const int nameStart = LastSeparator(path) + 1;
   CString name = path.Mid(nameStart);
-  const int dot = name.ReverseFind('.');
-  if (dot < 0 || nameStart + dot <= 1 || name.GetLength() < kEndung) return CString();
   name.MakeLower();
-  return path.Left(nameStart) + name.Left(name.GetLength() - kEndung) + "txt";
+  return path.Left(nameStart) + name.Left(std::max(name.GetLength() - kEndung, 0)) + "txt";
 }
 
 }  // namespace
