@@ -298,8 +298,9 @@ class LINTAVO_API CMFenster {
   /// - sashes that open towards the viewer cover the frame, the frame covers those
   ///   that open away from him; it covers panes without a sash frame from both sides;
   /// - of two sashes that overlap, the one with the smaller depth offset on the viewer's
-  ///   side; at equal offset, seen from the side to which they open, the one that opens
-  ///   first, then the earlier one of the list, and the other way round from behind;
+  ///   side; at equal offset the one that opens towards the viewer; where both open to
+  ///   one side, seen from there, the one that opens first, then the earlier one of the
+  ///   list, and the other way round from behind;
   /// - a sash covers with all of its outline, its glass included. Inside it the order is
   ///   frame parts, single parts, glazing bars, slats, filling; in the frame extra parts,
   ///   frame parts, mullions and transoms;

@@ -38,9 +38,9 @@ double Tiefe(const CMFensterSatz& fluegel, const CMFensterSatz& rahmen, int seit
   return std::isnan(schritte) ? 0.0 : schritte;
 }
 
-// The window's layers for a viewer on side `seite`, the nearest first. Sashes of equal
-// depth lie on each other, towards the side to which they open, in the order in which
-// they open.
+// The window's layers for a viewer on side `seite`, the nearest first. Of sashes of equal
+// depth those that open towards the viewer come first; those that open to one side lie on
+// each other, towards that side, in the order in which they open.
 std::vector<const CMFensterSatz*> Ebenen(const CMFenster& fenster, int seite) {
   const CMFensterSatz& rahmen = *fenster.GetRahmenPtr();
   using Schluessel = std::tuple<Schicht, double, bool, bool, long>;
