@@ -30,6 +30,10 @@ Bestand BestandVon(const CMFenster& fenster, bool mitSprossen = true) {
   };
   add(*fenster.GetRahmenPtr());
   for (long i = 0; i < fenster.GetAnzahlFluegel(); ++i) add(*fenster.GetFluegelPtr(i));
+  for (const auto* polygone : {&bestand.umrisse, &bestand.konturen}) {
+    for (const GEOM2_Polygon& polygon : *polygone)
+      EXPECT_TRUE(std::isfinite(polygon.GetFlaeche())) << Text(polygon);
+  }
   return bestand;
 }
 
@@ -119,7 +123,12 @@ TEST(Gesetze, ReadWriteReadIsTheSameBytes) {
     // another order; and it has but their nodes, which are not where slanted edges end.
     const bool andere = !entwurf.aussenteile.empty() || !entwurf.nurRechtecke;
     if (entwurf.pfostenAutomatisch && andere) return;
-    ErwarteGleich(BestandVon(fenster), BestandVon(wieder), kDateirundung);
+    // A dimension that runs backwards has moved the first axis, and a file begins at 0.
+    XY beginn;
+    fenster.GetAchsen().GetPunkt(0, 0, beginn);
+    if (beginn.x != 0.0 || beginn.y != 0.0) return;
+    const double tol = kDateirundung * std::max(1.0, entwurf.maszstab);
+    ErwarteGleich(BestandVon(fenster), BestandVon(wieder), tol);
   });
 }
 
@@ -164,8 +173,11 @@ TEST(Gesetze, FittingOneEndOfAnOuterPartLeavesTheOther) {
 
 // Growing and shrinking to the size before. Bars are left out: they keep their
 // coordinates and are only ever shortened.
-TEST(Gesetze, FittingThereAndBackIsTheIdentity) {
+TEST(Gesetze, FittingThereAndBackTenTimesIsTheIdentity) {
   JedesFenster([](const Fensterentwurf& entwurf, CMFenster& fenster) {
+    // Movable axes would be pushed past others, or as far too far as the window is away
+    // from the origin.
+    if (entwurf.maszeHemmen || entwurf.beginntSpaeter) return;
     // Laid anew, mullions run between their nodes, and slanted edges end beside those.
     if (entwurf.pfostenAutomatisch && !entwurf.nurRechtecke) return;
     double breite = 0.0;
@@ -174,13 +186,15 @@ TEST(Gesetze, FittingThereAndBackIsTheIdentity) {
     const Bestand vorher = BestandVon(fenster, false);
     Wuerfel wuerfel(entwurf.seed);
     // A corner that a dimension holds at its height may not be left too far behind.
-    const double mehr = entwurf.eckenBewegt ? 2.0 : 0.3 * hoehe;
-    const double breiter = breite + wuerfel.Laenge(0.0, 0.3 * breite);
-    const double hoeher = hoehe + wuerfel.Laenge(0.0, mehr);
+    const double mehr = entwurf.eckenBewegt ? 2.0 * entwurf.maszstab : 0.3 * hoehe;
     CString fehler;
-    EXPECT_TRUE(Einpassen(fenster, breiter, hoeher)) << (fenster.GetFehler(fehler), fehler);
-    EXPECT_TRUE(Einpassen(fenster, breite, hoehe)) << (fenster.GetFehler(fehler), fehler);
-    ErwarteGleich(vorher, BestandVon(fenster, false), 1e-6);
+    for (int i = 0; i < 10; ++i) {
+      const double breiter = breite + 0.3 * breite * wuerfel.Laenge(0.0, 1.0);
+      const double hoeher = hoehe + mehr * wuerfel.Laenge(0.0, 1.0);
+      EXPECT_TRUE(Einpassen(fenster, breiter, hoeher)) << (fenster.GetFehler(fehler), fehler);
+      ASSERT_TRUE(Einpassen(fenster, breite, hoehe)) << (fenster.GetFehler(fehler), fehler);
+    }
+    ErwarteGleich(vorher, BestandVon(fenster, false), 5e-6);
   });
 }
 
@@ -189,6 +203,28 @@ TEST(Gesetze, FittingThereAndBackIsTheIdentity) {
 std::vector<GEOM2_Polygon> Verschoben(std::vector<GEOM2_Polygon> polygone, double dx, double dy) {
   for (GEOM2_Polygon& polygon : polygone) polygon.Transformieren(1.0, 0.0, dx, dy);
   return polygone;
+}
+
+// Every corner of one lies on the border of the other. (Where the inner side of a bent
+// part comes to nothing, a joint may come out once or twice.)
+bool GleicheForm(const GEOM2_Polygon& a, const GEOM2_Polygon& b, double tol) {
+  const auto liegtAuf = [tol](const GEOM2_Polygon& p, const GEOM2_Polygon& q) {
+    for (int i = 0; i < p.GetAnzahl(); ++i) {
+      if (!q.IsAufRand({p.GetEckpunkt(i).x, p.GetEckpunkt(i).y}, tol)) return false;
+    }
+    return true;
+  };
+  return liegtAuf(a, b) && liegtAuf(b, a);
+}
+
+void ErwarteGleicheFormen(const std::vector<GEOM2_Polygon>& erwartet,
+                          const std::vector<GEOM2_Polygon>& ist, double tol, const char* was) {
+  ASSERT_EQ(erwartet.size(), ist.size()) << was;
+  for (std::size_t n = 0; n < ist.size(); ++n) {
+    EXPECT_TRUE(GleicheForm(ist[n], erwartet[n], tol))
+        << was << ' ' << n << "\n  expected " << Text(erwartet[n]) << "\n  is       "
+        << Text(ist[n]);
+  }
 }
 
 // The grid begins elsewhere, and with it everything. Left out: windows whose dimensions
@@ -216,42 +252,21 @@ TEST(Gesetze, AShiftedGridShiftsEverything) {
     Berechne(verschoben, entwurf.pfostenAutomatisch);
     const Bestand erwartet = BestandVon(fenster);
     const Bestand ist = BestandVon(verschoben);
-    ErwarteGleich(Verschoben(erwartet.umrisse, kDx, kDy), ist.umrisse, 1e-6, "outline");
-    ErwarteGleich(Verschoben(erwartet.konturen, kDx, kDy), ist.konturen, 1e-6, "contour");
+    ErwarteGleicheFormen(Verschoben(erwartet.umrisse, kDx, kDy), ist.umrisse, 1e-6, "outline");
+    ErwarteGleicheFormen(Verschoben(erwartet.konturen, kDx, kDy), ist.konturen, 1e-6, "contour");
   });
 }
 
-// Every corner of one lies on the border of the other.
-bool GleicheForm(const GEOM2_Polygon& a, const GEOM2_Polygon& b, double tol) {
-  const auto liegtAuf = [tol](const GEOM2_Polygon& p, const GEOM2_Polygon& q) {
-    for (int i = 0; i < p.GetAnzahl(); ++i) {
-      if (!q.IsAufRand({p.GetEckpunkt(i).x, p.GetEckpunkt(i).y}, tol)) return false;
-    }
-    return true;
-  };
-  return liegtAuf(a, b) && liegtAuf(b, a);
-}
-
-void ErwarteGleicheFormen(const std::vector<GEOM2_Polygon>& erwartet,
-                          const std::vector<GEOM2_Polygon>& ist, double tol, const char* was) {
-  ASSERT_EQ(erwartet.size(), ist.size()) << was;
-  for (std::size_t n = 0; n < ist.size(); ++n) {
-    EXPECT_TRUE(GleicheForm(ist[n], erwartet[n], tol))
-        << was << ' ' << n << "\n  expected " << Text(erwartet[n]) << "\n  is       "
-        << Text(ist[n]);
-  }
-}
-
-// Twice as large in everything, the longest side of a bent part included. Tolerances do
-// not grow: an outline may have an almost superfluous vertex, or a side of up to 0.1 at a
-// corner, that the other has not.
+// Lengths that files keep exactly, twice as large in everything, the longest side of a bent part
+// included. Tolerances do not grow: an outline may have an almost superfluous vertex, or a side of
+// up to 0.1 at a corner, that the other has not.
 TEST(Gesetze, ALargerWindowIsTheSameLarger) {
   constexpr double kFaktor = 2.0;
   constexpr double kBereinigung = 0.1;
   JedesFenster([](const Fensterentwurf& entwurf, CMFenster& fenster) {
+    if (entwurf.maszstab != 1.0) return;
     CMFenster grosz = Gelesen(Vergroeszert(entwurf, kFaktor));
     grosz.SetRahmenAbschnitt(kFaktor * grosz.GetRahmenAbschnitt());
-    grosz.GetPfostenVorlage().dBreite *= kFaktor;
     Berechne(grosz, entwurf.pfostenAutomatisch);
     const auto mal = [](std::vector<GEOM2_Polygon> polygone) {
       for (GEOM2_Polygon& p : polygone) p.Transformieren(kFaktor, 0.0, 0.0, 0.0);

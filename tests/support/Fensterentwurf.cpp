@@ -1,6 +1,7 @@
 #include "tests/support/Fensterentwurf.h"
 
 #include <charconv>
+#include <cmath>
 #include <initializer_list>
 #include <iterator>
 #include <numeric>
@@ -59,14 +60,23 @@ std::string Nummeriert(const char* name, std::size_t i) {
   return std::string(name).append(std::to_string(i + 1));
 }
 
+double Gerundet(double ort) {
+  return std::round(ort * 1e6) / 1e6;
+}
+
+// Distances of axes whose places have six decimals.
 void SchreibeAchsen(const Fensterentwurf& entwurf, Text& text) {
   text.Abschnitt("Achsen");
-  for (std::size_t i = 0; i < entwurf.zeilen.size(); ++i) {
-    text.Zahlen(Nummeriert("Y", i), {entwurf.zeilen[i]});
-  }
-  for (std::size_t i = 0; i < entwurf.spalten.size(); ++i) {
-    text.Zahlen(Nummeriert("X", i), {entwurf.spalten[i]});
-  }
+  const auto schreibe = [&](const char* name, const std::vector<double>& abstaende) {
+    double ort = 0.0;
+    for (std::size_t i = 0; i < abstaende.size(); ++i) {
+      const double davor = Gerundet(ort);
+      ort += abstaende[i];
+      text.Zahlen(Nummeriert(name, i), {Gerundet(ort) - davor});
+    }
+  };
+  schreibe("Y", entwurf.zeilen);
+  schreibe("X", entwurf.spalten);
 }
 
 void SchreibeMasz(const Maszentwurf& masz, Text& text) {
@@ -326,6 +336,32 @@ Fensterentwurf Gespiegelt(const Fensterentwurf& entwurf) {
   return bild;
 }
 
+Fensterentwurf Versetzt(const Fensterentwurf& entwurf, int dj, int dk, double dx, double dy) {
+  Fensterentwurf f = entwurf;
+  const auto versetze = [&](Knotenentwurf& knoten) {
+    knoten = {knoten.j + dj, knoten.k + dk, knoten.frei, knoten.x + dx, knoten.y + dy};
+  };
+  for (Maszentwurf& masz : f.masze) {
+    for (Knotenentwurf& knoten : masz.knoten) versetze(knoten);
+    if (masz.dritter) versetze(*masz.dritter);
+  }
+  for (Pfostenentwurf& pfosten : f.pfosten) {
+    versetze(pfosten.von);
+    versetze(pfosten.bis);
+  }
+  for (Fluegelentwurf& fluegel : f.fluegel) {
+    versetze(fluegel.knoten1);
+    versetze(fluegel.knoten2);
+    fluegel.jLinks += dj;
+    fluegel.jRechts += dj;
+    for (Sprossenentwurf& s : fluegel.sprossen) {
+      s.x += dx;
+      s.y += dy;
+    }
+  }
+  return f;
+}
+
 Fensterentwurf Vergroeszert(const Fensterentwurf& entwurf, double faktor) {
   Fensterentwurf grosz = entwurf;
   Mal(grosz.spalten, faktor);
@@ -337,6 +373,7 @@ Fensterentwurf Vergroeszert(const Fensterentwurf& entwurf, double faktor) {
   Mal(grosz.aussenteile, faktor);
   Mal(grosz.fluegel, faktor);
   grosz.lochflaeche *= faktor * faktor;
+  grosz.maszstab *= faktor;
   return grosz;
 }
 

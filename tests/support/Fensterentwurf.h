@@ -129,6 +129,9 @@ struct Fensterentwurf {
   bool achsenBewegt = false;     ///< dimensions move axes when first calculated
   bool eckenBewegt = false;      ///< dimensions move corners of the frame
   bool stichBewegt = false;      ///< a dimension changes the rise of an arch
+  bool maszeHemmen = false;      ///< fits may push a movable axis past one that is held
+  bool beginntSpaeter = false;   ///< the first axes are used by nothing
+  double maszstab = 1.0;         ///< 1 where lengths are centimetres
 };
 
 double Breite(const Fensterentwurf& entwurf);
@@ -141,6 +144,9 @@ std::string MakroText(const Fensterentwurf& entwurf);
 /// Parts that hang on a numbered side or part of a frame are left out (frame parts that
 /// differ, extra parts, fittings), because the numbers depend on where its outline starts.
 Fensterentwurf Gespiegelt(const Fensterentwurf& entwurf);
+
+/// All that stands on nodes moved by so many axes, and by (dx, dy) what has coordinates.
+Fensterentwurf Versetzt(const Fensterentwurf& entwurf, int dj, int dk, double dx, double dy);
 
 /// Every length times a factor.
 Fensterentwurf Vergroeszert(const Fensterentwurf& entwurf, double faktor);

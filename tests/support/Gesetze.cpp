@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::uint64_t kErsterSeed = 1;
 // After so many windows a law is known to be broken.
-constexpr int kGenugVerstoesze = 3;
+constexpr std::uint64_t kGenugVerstoesze = 3;
 
 std::uint64_t Umgebung(const char* name, std::uint64_t sonst) {
   const char* text = std::getenv(name);
@@ -26,8 +26,9 @@ int AnzahlMeldungen() {
 void JederSeed(const std::function<void(std::uint64_t)>& versuch, std::uint64_t anzahl) {
   const std::uint64_t beginn = Umgebung("LINTAVO_ZUFALLSBEGINN", kErsterSeed);
   const std::uint64_t ende = beginn + Umgebung("LINTAVO_ZUFALLSFENSTER", anzahl);
-  int verstoesze = 0;
-  for (std::uint64_t seed = beginn; seed < ende && verstoesze < kGenugVerstoesze; ++seed) {
+  const std::uint64_t genug = Umgebung("LINTAVO_VERSTOESZE", kGenugVerstoesze);
+  std::uint64_t verstoesze = 0;
+  for (std::uint64_t seed = beginn; seed < ende && verstoesze < genug; ++seed) {
     const int meldungen = AnzahlMeldungen();
     versuch(seed);
     if (AnzahlMeldungen() == meldungen) continue;
@@ -57,6 +58,7 @@ CMFenster Gelesen(const Fensterentwurf& entwurf) {
   CIniFile document = Dokument(MakroText(entwurf));
   EXPECT_TRUE(fenster.ReadFromBuffer(document));
   EXPECT_EQ(static_cast<std::size_t>(fenster.GetAnzahlFluegel()), entwurf.fluegel.size());
+  fenster.GetPfostenVorlage().dBreite *= entwurf.maszstab;
   return fenster;
 }
 

@@ -1,7 +1,8 @@
 // Laws that hold for every window, tried on random ones, of which each run makes the same.
 //
 // LINTAVO_ZUFALLSFENSTER is how many each law is tried on, LINTAVO_ZUFALLSBEGINN the seed
-// of the first; the other windows follow it one by one. A window that breaks a law is
+// of the first; the other windows follow it one by one; after LINTAVO_VERSTOESZE broken
+// ones a law is given up. A window that breaks a law is
 // printed as macro text with its seed.
 #pragma once
 

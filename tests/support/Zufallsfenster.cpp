@@ -17,7 +17,7 @@ namespace {
 constexpr int kMaxReihen = 7;
 
 // Slope of an edge, and rise of an arch over half its span, where a neighbour stands
-// beside its lower end.
+// beside its lower end and the valley between them is to be shallow.
 constexpr double kSanft = 0.5;
 constexpr double kFlach = 0.25;
 
@@ -40,6 +40,8 @@ class Entwerfer {
     SetzeMasze();
     SetzeAussenteile();
     if (wuerfel_.Mit(20)) ErweitereRaster();
+    if (!entwurf_.achsenBewegt && !entwurf_.stichBewegt && wuerfel_.Mit(10)) BeginneSpaeter();
+    if (wuerfel_.Mit(40)) return ImMaszstab();
     return std::move(entwurf_);
   }
 
@@ -220,8 +222,7 @@ class Entwerfer {
   }
 
   // Corners that move or are cut off, where the outside is. What is left keeps a
-  // rectangle of the width or height that every sash needs. Towards a neighbour an edge
-  // falls gently: the frame's inner corner runs away where a notch is sharp. (There a
+  // rectangle of the width or height that every sash needs. (Towards a neighbour a
   // chamfer has its other length at its largest.)
   void Schraege(const Feld& feld, Fluegelentwurf& f) {
     const double b = 0.4 * (Breite(feld) - bedarf_);
@@ -234,18 +235,19 @@ class Entwerfer {
       if (art == 2 ? !oben && !seitlich : !(art == 0 ? oben : seitlich)) continue;
       const double laengs = art == 2 ? b : Breite(feld);
       const double hoch = art == 2 ? h : Hoehe(feld);
-      const double x = art == 0 ? 0.0 : oben ? b : std::min(b, hoch * kSanft);
-      const double y = art == 1 ? 0.0 : seitlich ? h : std::min(h, laengs * kSanft);
-      // A step beside a neighbour is no smaller than the frame, which would swallow it.
-      const double von = oben && seitlich ? 1.0 : entwurf_.rahmen.breite;
+      const bool steil = wuerfel_.Mit(50);
+      const double x = art == 0 ? 0.0 : oben || steil ? b : std::min(b, hoch * kSanft);
+      const double y = art == 1 ? 0.0 : seitlich || steil ? h : std::min(h, laengs * kSanft);
+      // A step beside a neighbour that is smaller than the frame is swallowed by it.
+      const bool klein = (oben && seitlich) || wuerfel_.Mit(50);
+      const double von = klein ? 1.0 : entwurf_.rahmen.breite;
       if ((art != 0 && x < von) || (art != 1 && y < von)) continue;
       if (art != 0) f.beiwertX[i] = Beiwert(Zahl(art == 2 && !seitlich ? x : von, x));
       if (art != 1) f.beiwertY[i] = Beiwert(Zahl(art == 2 && !oben ? y : von, y));
     }
   }
 
-  // One roof line over the whole window: to one side, or a gable. Slopes are eighths, so
-  // that the six decimals of a file keep it straight.
+  // One roof line over the whole window: to one side, or a gable.
   void Dach() {
     double erlaubt = 1e9;
     const int oben = zellen_.Zeilen();
@@ -254,7 +256,7 @@ class Entwerfer {
     }
     const int first = wuerfel_.Zahl(0, zellen_.Spalten());
     const double weite = std::max(X(first), X(zellen_.Spalten()) - X(first));
-    const double neigung = wuerfel_.Zahl(1, 12) / 8.0;
+    const double neigung = wuerfel_.Laenge(0.1, 1.5);
     if (!(neigung * weite <= erlaubt)) return;
     entwurf_.nurRechtecke = false;
     for (std::size_t i = 0; i < felder_.size(); ++i) {
@@ -307,7 +309,8 @@ class Entwerfer {
     }
     const bool frei =
         zellen_.IstFrei(erstes, Seite::kLinks) && zellen_.IstFrei(letztes, Seite::kRechts);
-    const double steigung = frei ? halbeSpanne : halbeSpanne * kFlach;
+    const bool steil = frei;
+    const double steigung = steil ? halbeSpanne : halbeSpanne * kFlach;
     const double hoechstens = std::min(hoehe, steigung);
     if (hoechstens < 2.0) return;
     const double stich =
@@ -315,7 +318,7 @@ class Entwerfer {
     const double stichUnten = unten && wuerfel_.Mit(20) && hoehe - stich > 2.0
                                   ? Zahl(1.0, std::min(hoehe - stich, steigung))
                                   : 0.0;
-    const bool korbbogen = frei && wuerfel_.Mit(40);
+    const bool korbbogen = steil && wuerfel_.Mit(40);
     for (const std::size_t i : gruppe) {
       Fluegelentwurf& f = entwurf_.fluegel[i];
       f.form = 2;
@@ -333,7 +336,8 @@ class Entwerfer {
     const double hoehe = Hoehe(feld) - bedarf_;
     f.gespiegelt = wuerfel_.Mit(50);
     const bool frei = zellen_.IstFrei(feld, f.gespiegelt ? Seite::kRechts : Seite::kLinks);
-    const double steigung = frei ? Breite(feld) : Breite(feld) * kFlach;
+    const bool steil = frei;
+    const double steigung = steil ? Breite(feld) : Breite(feld) * kFlach;
     const double hoechstens = std::min(hoehe, steigung);
     if (hoechstens < 2.0 || wuerfel_.Mit(20)) return;
     f.form = 4;
@@ -341,7 +345,7 @@ class Entwerfer {
     if (zellen_.IstFrei(feld, Seite::kUnten) && wuerfel_.Mit(20) && hoehe - f.stich > 2.0) {
       f.stichUnten = Zahl(1.0, std::min(hoehe - f.stich, steigung));
     }
-    f.korbbogen = frei && wuerfel_.Mit(40);
+    f.korbbogen = steil && wuerfel_.Mit(40);
     entwurf_.nurRechtecke = false;
   }
 
@@ -411,12 +415,11 @@ class Entwerfer {
 
   // --- the frame ------------------------------------------------------------------
 
-  // Unequal parts of the frame only where its outline has no small steps: there a wide
-  // one beside a narrow one swallows the step.
   void SetzeAussenteile() {
     const bool ohneStufen = felder_.size() == 1 || entwurf_.nurRechtecke;
     if (ohneStufen && wuerfel_.Mit(25))
-      entwurf_.rahmenteile = Zufallsinhalt(wuerfel_, rund_).Teile(entwurf_.rahmen);
+      entwurf_.rahmenteile =
+          Zufallsinhalt(wuerfel_, rund_).Teile(entwurf_.rahmen, fluegel_.ueberschlag);
     if (!wuerfel_.Mit(25)) return;
     for (int n = wuerfel_.Zahl(1, 4); n > 0; --n) {
       entwurf_.aussenteile.push_back({wuerfel_.Zahl(0, 5), Zahl(1.0, 20.0), Zahl(2.0, 8.0),
@@ -424,11 +427,34 @@ class Entwerfer {
     }
   }
 
-  // Axes that nothing uses, behind those that are used. (Unused ones before them would
-  // let the used ones start away from the origin.)
+  // Axes that nothing uses, behind those that are used.
   void ErweitereRaster() {
     entwurf_.spalten.push_back(Zahl(20.0, 60.0));
     if (wuerfel_.Mit(50)) entwurf_.zeilen.push_back(Zahl(20.0, 60.0));
+  }
+
+  // And before them, so that the window stands away from the origin.
+  void BeginneSpaeter() {
+    entwurf_.beginntSpaeter = true;
+    const bool auchUnten = wuerfel_.Mit(50);
+    const double dx = Zahl(20.0, 60.0);
+    const double dy = auchUnten ? Zahl(20.0, 60.0) : 0.0;
+    entwurf_.spalten.insert(entwurf_.spalten.begin(), dx);
+    if (auchUnten) entwurf_.zeilen.insert(entwurf_.zeilen.begin(), dy);
+    entwurf_ = Versetzt(entwurf_, 1, auchUnten ? 1 : 0, dx, dy);
+  }
+
+  // The same window in any unit of length, with lengths that have many decimals.
+  Fensterentwurf ImMaszstab() {
+    constexpr double kMaszstaebe[] = {0.1, 0.5, 1.0, 10.0, 25.4, 100.0};
+    const double krumm = wuerfel_.Mit(50) ? 1.0 : 1.0 + wuerfel_.Laenge(-0.2, 0.2) / 7.0;
+    const double faktor = krumm * kMaszstaebe[wuerfel_.Zahl(0, 5)];
+    Fensterentwurf f = Vergroeszert(entwurf_, faktor);
+    for (Fluegelentwurf& fluegel : f.fluegel) {
+      if (fluegel.fuellung.art != 2) continue;
+      fluegel.fuellung.breite = std::max(1.0, std::round(fluegel.fuellung.breite));
+    }
+    return f;
   }
 
   Wuerfel wuerfel_;

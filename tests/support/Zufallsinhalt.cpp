@@ -1,5 +1,6 @@
 #include "tests/support/Zufallsinhalt.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace lintavo::test {
@@ -16,10 +17,11 @@ Fuellungsentwurf Zufallsinhalt::Fuellung() {
   return f;
 }
 
-std::vector<Querschnitt> Zufallsinhalt::Teile(const Querschnitt& vorlage) {
+std::vector<Querschnitt> Zufallsinhalt::Teile(const Querschnitt& vorlage, double mindestens) {
   std::vector<Querschnitt> teile;
+  const double wenig = std::max(mindestens, (wuerfel_.Mit(50) ? 0.5 : 0.1) * vorlage.breite);
   for (int n = wuerfel_.Zahl(1, 5); n > 0; --n) {
-    teile.push_back({Zahl(std::ceil(0.5 * vorlage.breite), vorlage.breite),
+    teile.push_back({Zahl(std::min(std::ceil(wenig), vorlage.breite), vorlage.breite),
                      Zahl(0.0, vorlage.ueberschlag), vorlage.dicke});
   }
   return teile;
@@ -61,10 +63,11 @@ std::vector<Sprossenentwurf> Zufallsinhalt::Sprossen(double x, double y, double 
         break;
       default:
         s.x += Zahl(0.1 * b, 0.6 * b);
-        s.winkel = wuerfel_.Zahl(20, 160);
+        s.winkel =
+            wuerfel_.Mit(50) ? wuerfel_.Zahl(20, 160) : wuerfel_.Laenge(20.0, 160.0) / 1.0007;
         // At 85 degrees an upright edge leans just as far as a cut may: on neither side.
         if (s.winkel == 85.0 || s.winkel == 95.0) s.winkel -= 1.0;
-        s.laenge = std::round(1.2 * h);
+        s.laenge = 1.2 * h;
         break;
     }
     sprossen.push_back(s);

@@ -18,7 +18,7 @@ class Zufallsinhalt {
   }
   Fuellungsentwurf Fuellung();
   /// Frame parts narrower than the template, the first ones of the list.
-  std::vector<Querschnitt> Teile(const Querschnitt& vorlage);
+  std::vector<Querschnitt> Teile(const Querschnitt& vorlage, double mindestens = 0.0);
   std::vector<Zusatzteilentwurf> Innenteile(double breite);
   std::vector<Beschlagentwurf> Beschlaege();
   /// Upright, level and slanted ones, from one side of a placement of b x h at (x, y) to

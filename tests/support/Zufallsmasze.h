@@ -29,9 +29,12 @@ class Zufallsmasze {
   }
   double Zahl(double von, double bis);
   Maszentwurf Masz(const char* name, bool horizontal, int von, int bis);
-  void SetzeGesamtmasz(bool horizontal);
+  void SetzeGesamtmasz(bool horizontal, bool nachTeilmaszen);
   void SetzeTeilmasze(bool horizontal, bool vorGesamtmasz);
-  void SetzeZentrischesMasz(bool horizontal);
+  void SetzeReihe(bool horizontal, int anzahl);
+  void SetzeZentrischesMasz(bool horizontal, bool vorGesamtmasz);
+  void Aendere(Maszentwurf& masz, double mehr);
+  double Hoehe() const;
   void SetzeKaempfermasz();
 
   Wuerfel& wuerfel_;
