@@ -80,9 +80,10 @@ Lamellenlage::Lamellenlage(const CMFuellung& fuellung, long nummer, const GEOM2_
   if (!HatFlaeche() || !SindMasze(breite_, teilung)) return;
   const double hoehe = max_.y - min_.y;
   // Both truncations are meant, that of the height too, although with it a last
-  // whole slat may come out as the rest: the number of slats is fixed by it.
-  const auto ganzeHoehe = static_cast<double>(TruncateToLong(hoehe));
-  ganze_ = TruncateToLong(ganzeHoehe / teilung);
+  // whole slat may come out as the rest: the number of slats is fixed by it. Neither
+  // may depend on the last bit of a height that is a difference of coordinates.
+  const auto ganzeHoehe = static_cast<double>(TruncateToLong(hoehe + kRechenrauschen * teilung));
+  ganze_ = TruncateToLong(ganzeHoehe / teilung + kRechenrauschen);
   if (ganze_ >= kMaxLamellen) {
     ganze_ = kMaxLamellen;
     return;
