@@ -328,4 +328,17 @@ TEST(IniWrite, SetsSectionsApart) {
   std::filesystem::remove(FilePath());
 }
 
+TEST(IniFile, IsEmptyWhenMovedFrom) {
+  CIniFile first = Document({"a=1", "[S]", "b=2"});
+  CString value;
+  EXPECT_EQ(first.GetString("S", "b", value), 1);
+  CIniFile second = std::move(first);
+  EXPECT_EQ(first.GetString("S", "b", value), 0);  // NOLINT(bugprone-use-after-move)
+  EXPECT_EQ(second.GetString("S", "b", value), 1);
+  first = std::move(second);
+  EXPECT_EQ(second.GetString("S", "b", value), 0);  // NOLINT(bugprone-use-after-move)
+  EXPECT_EQ(second.IsReading(), 0);
+  EXPECT_EQ(first.GetString("S", "b", value), 1);
+}
+
 }  // namespace

@@ -107,6 +107,29 @@ class PieceReader {
 
 CIniFile::~CIniFile() = default;
 
+CIniFile::CIniFile(CIniFile&& other) noexcept {
+  Tausche(other);
+}
+
+CIniFile& CIniFile::operator=(CIniFile&& other) noexcept {
+  CIniFile neu(std::move(other));
+  Tausche(neu);
+  return *this;
+}
+
+// The places remembered belong to the lines.
+void CIniFile::Tausche(CIniFile& other) noexcept {
+  std::swap(m_Lines, other.m_Lines);
+  std::swap(m_LastSectionName, other.m_LastSectionName);
+  std::swap(m_LastSectionLine, other.m_LastSectionLine);
+  std::swap(m_SectionEndLine, other.m_SectionEndLine);
+  std::swap(m_LastEntryLine, other.m_LastEntryLine);
+  std::swap(m_CntSections, other.m_CntSections);
+  std::swap(m_Headers, other.m_Headers);
+  std::swap(m_IsIndexed, other.m_IsIndexed);
+  std::swap(m_LookedAt, other.m_LookedAt);
+}
+
 int CIniFile::Read(const CString& path) {
   const lintavo::FilePtr file = lintavo::OpenFile(path, "r");
   if (file == nullptr) return 0;

@@ -24,9 +24,10 @@ class LINTAVO_API CIniFile {
  public:
   CIniFile() = default;
   CIniFile(const CIniFile&) = default;
-  CIniFile(CIniFile&&) noexcept = default;
+  /// A document moved from is empty, as a new one.
+  CIniFile(CIniFile&& other) noexcept;
   CIniFile& operator=(const CIniFile&) = default;
-  CIniFile& operator=(CIniFile&&) noexcept = default;
+  CIniFile& operator=(CIniFile&& other) noexcept;
   virtual ~CIniFile();
 
   /// Appends the lines of a file: 1, or 0 when it cannot be opened or not be read
@@ -114,6 +115,7 @@ class LINTAVO_API CIniFile {
   const std::vector<CString>& GetLines() const { return m_Lines; }
 
  private:
+  void Tausche(CIniFile& other) noexcept;
   long LineCount() const { return static_cast<long>(m_Lines.size()); }
   std::string_view Line(long i) const { return m_Lines[static_cast<std::size_t>(i)].View(); }
 
@@ -131,6 +133,7 @@ class LINTAVO_API CIniFile {
   std::string_view FindEntry(std::string_view key, long from, long to);
   std::string_view FindNumbers(const CString& section, const CString& key);
 
+  // Tausche swaps them all.
   std::vector<CString> m_Lines;  // trimmed by Read
   CString m_LastSectionName;     // the section last found by a search
   int m_LastSectionLine = -1;    // line of its header
