@@ -161,7 +161,11 @@ TEST(Fassade, SettersRefuseWhatIsNoMeasureAndChangeTheNextCalculation) {
     EXPECT_EQ(api.SetFluegelRahmenDicke(0, bad), 0) << bad;
     EXPECT_EQ(api.SetZMaszLaenge(0, bad), 0) << bad;
   }
-  EXPECT_EQ(api.SetFluegelUeberschlag(0, -0.1), 0);
+  for (const double wert : {-0.1, std::nan(""), HUGE_VAL}) {
+    EXPECT_EQ(api.SetFluegelUeberschlag(0, wert), 0);
+    EXPECT_EQ(api.SetFluegelZVersatz(0, wert), 0);
+    EXPECT_EQ(api.SetFluegelRahmenBreite(0, wert), 0);
+  }
   EXPECT_EQ(api.SetFluegelUeberschlag(0, 0.0), 1);
 
   const auto area = [&](const CFeApiPolygon& p) {
@@ -209,6 +213,7 @@ TEST(Fassade, SettersOfBarsAndDimensionsShowInTheNextOutlines) {
   EXPECT_DOUBLE_EQ(api.GetRahmenBauteilDicke(1, 3), 9.0);
   EXPECT_DOUBLE_EQ(api.GetFluegelZVersatz(0, 0), 0.5);
   EXPECT_DOUBLE_EQ(api.GetFluegelZVersatz(0, 1), 9.0 - 8.0 - 0.5);
+  for (const long seite : {-1L, 2L}) EXPECT_EQ(api.GetFluegelZVersatz(0, seite), 0.0);
   ASSERT_EQ(api.GetRahmenBauteilUmriss(1, 0, -1, umriss, d[0], d[1], d[2]), 1);
   EXPECT_NEAR(extent(umriss.pdX), 180.0, 1e-9);
 }

@@ -149,12 +149,13 @@ class LINTAVO_API CFeApi {
   double GetFluegelRahmenBreite(long i) const;
   double GetFluegelRahmenDicke(long i) const;
   double GetFluegelUeberschlag(long i) const;  ///< overlap of the sash on its frame
-  /// Depth offset of sash `i` on one side: side 0 is inside, 1 outside.
+  /// Depth offset of sash `i` on one side: side 0 is inside, 1 outside; 0.0 for any
+  /// other side.
   double GetFluegelZVersatz(long i, long side) const;
   int SetFluegelRahmenBreite(long i, double width);
   int SetFluegelRahmenDicke(long i, double thickness);
-  int SetFluegelUeberschlag(long i, double overlap);  ///< overlap at least 0.0
-  int SetFluegelZVersatz(long i, double offset);      ///< offset at least 0.0
+  int SetFluegelUeberschlag(long i, double overlap);  ///< overlap at least 0.0, finite
+  int SetFluegelZVersatz(long i, double offset);      ///< offset at least 0.0, finite
   /// Number of components of sash `i` of kind 1, 2 or 3.
   long GetFluegelAnzahlBauteile(long lArt, long iFluegel) const;
   long GetFluegelAnzahlBauteilSegmente(long lArt, long iFluegel, long i) const;

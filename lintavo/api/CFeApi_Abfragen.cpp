@@ -222,6 +222,7 @@ double CFeApi::GetFluegelUeberschlag(long i) const {
 double CFeApi::GetFluegelZVersatz(long i, long side) const {
   const CMFensterSatz* fluegel = Fluegel(i);
   if (!fluegel) return 0.0;
+  if (side != 0 && side != 1) return 0.0;
   if (side == fluegel->lOeffSeite) return fluegel->dZVersatz;
   return GetRahmenDicke() - GetFluegelRahmenDicke(i) - fluegel->dZVersatz;
 }
@@ -236,7 +237,7 @@ int CFeApi::SetFluegelRahmenDicke(long i, double thickness) {
 
 int CFeApi::SetFluegelUeberschlag(long i, double overlap) {
   CMFensterSatz* fluegel = Fluegel(i);
-  if (!fluegel || !(overlap >= 0.0)) return 0;
+  if (!fluegel || !lintavo::IstMaszOderNull(overlap)) return 0;
   SetzeRahmenMasz(*fluegel, &CMBauteil::dBreite2, overlap);
   pFenster_->Invalidiere();
   return 1;
@@ -244,7 +245,7 @@ int CFeApi::SetFluegelUeberschlag(long i, double overlap) {
 
 int CFeApi::SetFluegelZVersatz(long i, double offset) {
   CMFensterSatz* fluegel = Fluegel(i);
-  if (!fluegel || !(offset >= 0.0)) return 0;
+  if (!fluegel || !lintavo::IstMaszOderNull(offset)) return 0;
   fluegel->dZVersatz = offset;
   return 1;
 }
