@@ -261,7 +261,7 @@ TEST(Zusatzteil, DamagedChains) {
       satz.PlaziereZusatzteile(true);
       ADD_FAILURE() << fehlt;
     } catch (const CMException& e) {
-      EXPECT_EQ(e.iNummer, 1);
+      EXPECT_EQ(e.iNummer, 94);
       EXPECT_FALSE(e.strText.IsEmpty());
     }
     EXPECT_EQ(satz.EinzelTeile.size(), 2U);

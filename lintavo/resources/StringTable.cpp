@@ -122,6 +122,7 @@ constexpr Entry kEntries[] = {
     {StringId::XSkalierung, "X-Skalierung"},
     {StringId::YSkalierung, "Y-Skalierung"},
     {StringId::Beidseitig, "Beidseitig"},
+    {StringId::MeldungBauteilFehlt, "Ein Zusatzteil verweist auf ein fehlendes Bauteil !"},
 };
 
 // The only text outside the dense numbers.

@@ -120,6 +120,7 @@ enum class StringId : int {
   XSkalierung = 91,
   YSkalierung = 92,
   Beidseitig = 93,
+  MeldungBauteilFehlt = 94,
 
   Beschlag = 61246,  ///< "Beschlag%d": the number stands at "%d"
 };

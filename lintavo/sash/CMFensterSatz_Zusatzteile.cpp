@@ -8,6 +8,7 @@
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/geom/Vektor_intern.h"
 #include "lintavo/model/CMException.h"
+#include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/CMFensterSatz.h"
 
 namespace {
@@ -154,7 +155,7 @@ std::vector<bool> CMFensterSatz::KettenAufloesen() {
   for (const CMBauteil& rahmenteil : RahmenTeile) {
     for (long glied = rahmenteil.lKette; glied != kKettenende;) {
       const CMBauteil* teil = GetEinzelBauteilPtr(glied);
-      if (!teil) throw CMException(CString("Ein Zusatzteil verweist auf ein fehlendes Bauteil !"));
+      if (!teil) throw CMException(static_cast<int>(lintavo::StringId::MeldungBauteilFehlt));
       if (angeschlossen[static_cast<std::size_t>(glied)]) break;
       angeschlossen[static_cast<std::size_t>(glied)] = true;
       glied = teil->lKette;
