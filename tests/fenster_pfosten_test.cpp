@@ -267,6 +267,7 @@ TEST(Fluegel, ASashWhoseInnerContourVanishesFailsWithMessage22) {
 TEST(Fluegel, AllComponentsAndFillingsCanBeCollected) {
   CMFenster fenster = Raster(2, 1, 50.0, 100.0);
   fenster.AddRahmenEinzelBauteil(CMKnoten(1, 0), CMKnoten(1, 1), Vorlage());
+  fenster.GetRahmenPtr()->Fuellung.SetLamellen(3.0, 1.0);
   fenster.GetFluegelPtr(1L)->Fuellung.SetKonstant(3.0);
   ASSERT_TRUE(fenster.Berechne(false));
   std::vector<CMBauteil> bauteile;
@@ -275,9 +276,10 @@ TEST(Fluegel, AllComponentsAndFillingsCanBeCollected) {
   EXPECT_EQ(bauteile.size(), 13u);
   std::vector<CMFuellung> fuellungen;
   fenster.GetFuellungen(fuellungen);
-  ASSERT_EQ(fuellungen.size(), 2u);
-  EXPECT_TRUE(fuellungen[0].IsGlas());
-  EXPECT_TRUE(fuellungen[1].IsKonstant());
+  ASSERT_EQ(fuellungen.size(), 3u);
+  EXPECT_TRUE(fuellungen[0].IsLamellen()) << "the frame's own";
+  EXPECT_TRUE(fuellungen[1].IsGlas());
+  EXPECT_TRUE(fuellungen[2].IsKonstant());
 }
 
 TEST(Fluegel, CopiesAreDeepAndDeletingClosesTheGap) {

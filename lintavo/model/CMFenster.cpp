@@ -262,6 +262,7 @@ void CMFenster::GetBauteile(std::vector<CMBauteil>& bauteile) const {
 }
 
 void CMFenster::GetFuellungen(std::vector<CMFuellung>& fuellungen) const {
+  fuellungen.push_back(rahmen_.Fuellung);
   for (const auto& fluegel : fluegel_) fuellungen.push_back(fluegel->Fuellung);
 }
 

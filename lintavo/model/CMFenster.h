@@ -135,7 +135,7 @@ class LINTAVO_API CMFenster {
   /// Appends copies of all components: the frame's parts and single parts, then of each
   /// sash its parts, single parts and bars.
   void GetBauteile(std::vector<CMBauteil>& bauteile) const;
-  /// Appends copies of the fillings, one per sash, in sash order.
+  /// Appends copies of the fillings: the frame's, then one per sash, in sash order.
   void GetFuellungen(std::vector<CMFuellung>& fuellungen) const;
 
   // --- macro file ------------------------------------------------------------
