@@ -206,6 +206,8 @@ TEST(Rahmenteile, AWideNeighbourSwallowsTheFootOfAnArch) {
     rahmen.RahmenTeile[3].dBreite = 6.0;  // left
     ASSERT_TRUE(fenster.Berechne(false));
     ErwarteAlleParketts(fenster, "rise " + std::to_string(stich));
+    EXPECT_EQ(rahmen.RahmenTeile[2].lSeite, 2) << "the first side of the arch";
+    EXPECT_EQ(rahmen.RahmenTeile[3].lSeite, rahmen.RahmenPolygon.GetAnzahl() - 1);
   }
 }
 
@@ -330,6 +332,37 @@ TEST(Aussenteile, StayAtTheirSideWhereTheContourGoesOnBeyondAGap) {
   GEOM2_Polygon umriss;
   ASSERT_TRUE(rahmen.GetEinzelBauteilPtr(1)->GetUmrissPunkte(umriss));
   EXPECT_TRUE(GleicherRing(Rechteck(100.0, 100.0, 110.0, 130.0), umriss, 1e-9));
+}
+
+TEST(Aussenteile, AreFittedAtTheCornersThatTheContourKeeps) {
+  // A short riser between a flat top and a slope; the part on the slope swallows it.
+  CMFenster fenster;
+  for (const double x : {0.0, 50.0, 50.0}) fenster.GetAchsen().AddVerti(x);
+  for (const double y : {0.0, 100.0, 30.0}) fenster.GetAchsen().AddHori(y);
+  ASSERT_NE(fenster.AddFluegel(eFormRechteck, 0, CMKnoten(0, 0), CMKnoten(1, 1)), nullptr);
+  fenster.AddFluegel(eFormRechteck, 0, CMKnoten(1, 0), CMKnoten(2, 2))
+      ->SetFormBeiwertY(0, 35.0, true);
+  ASSERT_TRUE(fenster.Berechne(false));
+  CMFensterSatz& rahmen = *fenster.GetRahmenPtr();
+  ASSERT_TRUE(
+      GleicherRing(Poly("(0,0) (100,0) (100,130) (50,95) (50,100) (0,100)"), rahmen.RahmenPolygon));
+  CMBauteil schraeg;
+  schraeg.dBreite = 10.0;
+  CMBauteil rechts;
+  rechts.dBreite = 5.0;
+  rechts.cAbschnittsTypAnfang = rechts.cAbschnittsTypEnde = 2;
+  ASSERT_NE(rahmen.AddZusatzteil(2, schraeg, true), nullptr);
+  ASSERT_NE(rahmen.AddZusatzteil(1, rechts, true), nullptr);
+  ASSERT_TRUE(fenster.Berechne(false));
+  GEOM2_Polygon aussen;
+  ASSERT_TRUE(rahmen.ErzeugeRahmenAussenPolygon(aussen));
+  ASSERT_EQ(aussen.GetAnzahl(), 5);
+  GEOM2_Polygon umriss;
+  ASSERT_TRUE(rahmen.GetEinzelBauteilPtr(1)->GetUmrissPunkte(umriss));
+  // Up to the slope, 10 beyond the frame's.
+  GEOM2_Polygon erwartet = Poly("(100,0) (105,0) (105,0) (100,130)");
+  erwartet.SetPunkt(2, 105.0, 133.5 + 10.0 * std::hypot(1.0, 0.7));
+  EXPECT_TRUE(GleicherRing(erwartet, umriss, 1e-6));
 }
 
 TEST(Rahmenteile, IndexPastTheEndGivesTheTemplate) {

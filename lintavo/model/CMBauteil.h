@@ -108,14 +108,15 @@ class LINTAVO_API CMBauteil {
   long lAttribut[4] = {2, 2, 1, 1};  ///< display attributes a1 to a4
   double dBreite2 = 0.0;             ///< second width: the overlap of a sash's part
   double dWert = 0.0;                ///< carried for the callers
-  long lSeite = -1;                  ///< side of the frame polygon of an extra part
-  long lKette = -1;                  ///< index of the next extra part of the chain
-  int cAbschnittsTypAnfang = 0;      ///< section-end type at the start, 0..4
-  int cAbschnittsTypEnde = 0;        ///< section-end type at the end, 0..4
-  CMKnoten kAnfang;                  ///< node at the start
-  CMKnoten kEnde;                    ///< node at the end
-  long lSprossenBild = -1;           ///< number of the pattern that made the bar
-  long lReferenz = -1;               ///< carried for the callers
-  long lReihenfolge = 0;             ///< ordering key of `Ordnen`
-  double dUeberBreite = 0.0;         ///< extra width of the outline
+  long lSeite = -1;  ///< side of the frame polygon: of an extra part its own, of a frame part
+                     ///< its first; else -1
+  long lKette = -1;  ///< index of the next extra part of the chain
+  int cAbschnittsTypAnfang = 0;  ///< section-end type at the start, 0..4
+  int cAbschnittsTypEnde = 0;    ///< section-end type at the end, 0..4
+  CMKnoten kAnfang;              ///< node at the start
+  CMKnoten kEnde;                ///< node at the end
+  long lSprossenBild = -1;       ///< number of the pattern that made the bar
+  long lReferenz = -1;           ///< carried for the callers
+  long lReihenfolge = 0;         ///< ordering key of `Ordnen`
+  double dUeberBreite = 0.0;     ///< extra width of the outline
 };

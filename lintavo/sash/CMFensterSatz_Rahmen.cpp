@@ -302,13 +302,14 @@ bool CMFensterSatz::ErzeugeRahmenBauteile() {
 
   for (CMBauteil& bauteil : RahmenTeile) {
     bauteil.DeleteAchsen();
+    bauteil.lSeite = -1;
     bauteil.lLage = eLageLinks;
     bauteil.SetUeberBreite(0.0);
   }
   for (int i = 0; i < count; ++i) {
-    const GEOM2_Achse achse =
-        AchseVon(SeiteVon(RahmenPolygon, i), seiten[static_cast<std::size_t>(i)]);
-    GetBauteilPtr(RahmenPolygon, i)->AddAchse(achse);
+    CMBauteil& bauteil = *GetBauteilPtr(RahmenPolygon, i);
+    if (bauteil.lGetAnzAchsen() == 0) bauteil.lSeite = i;
+    bauteil.AddAchse(AchseVon(SeiteVon(RahmenPolygon, i), seiten[static_cast<std::size_t>(i)]));
   }
   for (int i = 0; i < count; ++i) SetzeUeberBreite(*GetBauteilPtr(RahmenPolygon, i));
   return true;
