@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -70,6 +69,18 @@ TEST(Lamellen, FillTheHeightFromBelow) {
   for (const auto& fall : kFaelle) {
     const GEOM2_Polygon umriss = Rechteck(0, 0, 80, fall.hoehe);
     EXPECT_EQ(BreiteUndLage(Lamellen(umriss, fall.breite, fall.luecke)), fall.erwartet) << fall.was;
+  }
+}
+
+// The height is a difference of two coordinates.
+TEST(Lamellen, DoNotDependOnTheLastBitOfTheHeight) {
+  for (const double unten : {0.0, 0.1, 12.2, 73.3}) {
+    for (int zehntel = 5; zehntel < 80; ++zehntel) {
+      const double hoehe = zehntel * 10.0;
+      const std::vector<CMBauteil> slats =
+          Lamellen(Rechteck(0, unten, 80, unten + hoehe), zehntel / 10.0, 0.0);
+      EXPECT_EQ(slats.size(), 100U) << zehntel << " tenths from " << unten;
+    }
   }
 }
 
@@ -359,24 +370,34 @@ TEST(Beschlag, SitsOnItsFramePart) {
 }
 
 TEST(Beschlag, DrawingLiesAlongTheGivenDirection) {
-  // Turned by a quarter, forward is up. A handle reaches 12 forward and 2 back, a hinge
-  // 4 to both sides.
-  for (const auto& [typ, vor, zurueck] :
-       {std::tuple{eBeschlagGriff, 12.0, 2.0}, std::tuple{eBeschlagBand, 4.0, 4.0}}) {
+  // A handle reaches 12 forward and 2 back, a hinge 4 to both sides. Of a handle forward
+  // is never up; along a level part it is the part's own direction.
+  const struct {
+    eBeschlagTypen typ;
+    double winkel;
+    XY vor;
+    double weite, zurueck;
+  } kFaelle[] = {{eBeschlagGriff, 90, {0, -1}, 12, 2},   {eBeschlagGriff, -90, {0, -1}, 12, 2},
+                 {eBeschlagGriff, 0, {1, 0}, 12, 2},     {eBeschlagGriff, 180, {-1, 0}, 12, 2},
+                 {eBeschlagGriff, -180, {-1, 0}, 12, 2}, {eBeschlagBand, 90, {0, 1}, 4, 4}};
+  for (const auto& fall : kFaelle) {
     CMBeschlag beschlag;
-    beschlag.eTyp = typ;
+    beschlag.eTyp = fall.typ;
     std::vector<CMStrecke> lines;
-    beschlag.GetZeichnung(lines, {10, -20}, 90.0);
-    double unten = kInf;
-    double oben = -kInf;
+    beschlag.GetZeichnung(lines, {10, -20}, fall.winkel);
+    double weite = -kInf;
+    double zurueck = -kInf;
     for (const CMStrecke& linie : lines) {
-      XY a, b;
-      linie.GetPunkte(a, b);
-      unten = std::min({unten, a.y, b.y});
-      oben = std::max({oben, a.y, b.y});
+      XY p[2];
+      linie.GetPunkte(p[0], p[1]);
+      for (const XY& q : p) {
+        const double vor = (q.x - 10) * fall.vor.x + (q.y + 20) * fall.vor.y;
+        weite = std::max(weite, vor);
+        zurueck = std::max(zurueck, -vor);
+      }
     }
-    EXPECT_NEAR(oben, -20.0 + vor, 1e-9);
-    EXPECT_NEAR(unten, -20.0 - zurueck, 1e-9);
+    EXPECT_NEAR(weite, fall.weite, 1e-9) << fall.winkel;
+    EXPECT_NEAR(zurueck, fall.zurueck, 1e-9) << fall.winkel;
   }
   CMBeschlag anderer;
   anderer.eTyp = static_cast<eBeschlagTypen>(9);

@@ -122,7 +122,9 @@ bool CMBeschlag::GetPunkt(const CMFensterSatz* sash, XY& p) {
 
 void CMBeschlag::GetZeichnung(std::vector<CMStrecke>& lines, const XY& p, double angle) const {
   if (!std::isfinite(p.x) || !std::isfinite(p.y) || !std::isfinite(angle)) return;
-  Zeichnung zeichnung(p, angle, lines);
+  // The lever of a handle hangs, on whichever upright part.
+  const bool haengt = std::sin(angle * lintavo::kRadiantJeGrad) <= lintavo::kParallelSinus;
+  Zeichnung zeichnung(p, eTyp != eBeschlagGriff || haengt ? angle : angle + 180.0, lines);
   if (eTyp == eBeschlagGriff) {
     ZeichneGriff(zeichnung);
   } else if (eTyp == eBeschlagBand) {

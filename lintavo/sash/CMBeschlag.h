@@ -34,8 +34,10 @@ class LINTAVO_API CMBeschlag {
   /// Appends the fitting's drawing at a point, turned by an angle in degrees:
   /// along the direction of the angle a handle is a rosette with a lever that
   /// reaches 12 units from the point, a hinge a barrel of 8 units in three
-  /// knuckles around it, and any other fitting a cross. Colour and priority are
-  /// 0. Nothing when the point or the angle is not finite.
+  /// knuckles around it, and any other fitting a cross. A handle whose lever would
+  /// point upwards (the sine of the angle is positive) is turned by another 180
+  /// degrees: levers hang. Colour and priority are 0. Nothing when the point or
+  /// the angle is not finite.
   void GetZeichnung(std::vector<CMStrecke>& lines, const XY& p, double angle) const;
 
   eBeschlagTypen eTyp = eBeschlagGriff;
