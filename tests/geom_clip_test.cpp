@@ -157,6 +157,61 @@ TEST(AchseClippen, ASecondCutChangesNotASingleBit) {
   EXPECT_GT(geschnitten, 500);
 }
 
+// As files keep it: six decimals of place, length and angle, no cuts.
+GEOM2_Achse Gerundet(GEOM2_Achse achse) {
+  for (double* wert : {&achse.Start.x, &achse.Start.y, &achse.dLaenge, &achse.dWinkel}) {
+    *wert = std::round(*wert * 1e6) / 1e6;
+  }
+  achse.dWinkelAnfang = achse.dWinkelEnde = 0.0;
+  return achse;
+}
+
+TEST(AchseClippen, AnAxisRoundedToSixDecimalsIsTheSameAtAnySize) {
+  std::mt19937 zufall(815);
+  SCOPED_TRACE("seed 815");
+  std::uniform_real_distribution<> lage(-1, 1);
+  int geschnitten = 0;
+  for (int lauf = 0; lauf < 2000; ++lauf) {
+    const double groesse = std::pow(10.0, 2.0 + 2.0 * lage(zufall));
+    const GEOM2_Polygon p = Gedreht(Vieleck(3 + lauf % 6, groesse), 100 * lage(zufall));
+    const XY von{2 * groesse * lage(zufall), 2 * groesse * lage(zufall)};
+    const XY bis{2 * groesse * lage(zufall), 2 * groesse * lage(zufall)};
+    const double d = 0.02 * groesse;
+    GEOM2_Achse achse = Achse(von, bis);
+    if (!p.AchseClippen(achse, d) || achse.dLaenge < groesse) continue;
+    ++geschnitten;
+    const GEOM2_Achse datei = Gerundet(achse);
+    GEOM2_Achse gelesen = datei;
+    ASSERT_TRUE(p.AchseClippen(gelesen, d));
+    // Not moved by a bit, so that it is written again as it was read.
+    EXPECT_EQ(gelesen.Start.x, datei.Start.x) << lauf;
+    EXPECT_EQ(gelesen.Start.y, datei.Start.y) << lauf;
+    EXPECT_EQ(gelesen.dLaenge, datei.dLaenge) << lauf;
+    const double grad = 1e-3 + 1e-4 / d;
+    EXPECT_NEAR(gelesen.dWinkelAnfang, achse.dWinkelAnfang, grad) << lauf << ", size " << groesse;
+    EXPECT_NEAR(gelesen.dWinkelEnde, achse.dWinkelEnde, grad) << lauf << ", size " << groesse;
+  }
+  EXPECT_GT(geschnitten, 500);
+}
+
+// It has not met the outline where it ends; at a corner it meets the next edge.
+TEST(AchseClippen, AlongAnEdgeOnlyACornerCuts) {
+  for (const double winkel : {0.0, 17.3, 90.0, 141.9}) {
+    const GEOM2_Polygon raute = Gedreht(Poly("(0,0) (100,0) (120,60) (30,60)"), winkel);
+    XY a;
+    XY b;
+    raute.GetKante(0, a, b);
+    for (const double bis : {0.3, 0.6, 1.0}) {
+      GEOM2_Achse achse = Achse({a.x + 0.2 * (b.x - a.x), a.y + 0.2 * (b.y - a.y)},
+                                {a.x + bis * (b.x - a.x), a.y + bis * (b.y - a.y)});
+      ASSERT_TRUE(raute.AchseClippen(achse, 5));
+      EXPECT_EQ(achse.dWinkelAnfang, 0.0) << winkel;
+      const double ende = bis < 1.0 ? 0.0 : std::atan(20.0 / 60.0) * lintavo::kGradJeRadiant;
+      EXPECT_NEAR(achse.dWinkelEnde, ende, 1e-9) << winkel << " to " << bis;
+    }
+  }
+}
+
 TEST(AchseClippen, NeitherDoesOneThatStartsBesideAnEdge) {
   // From the start to the edge y = -20 the axis runs beside it at about the tolerance.
   const GEOM2_Polygon zacken = Poly(

@@ -161,8 +161,10 @@ class LINTAVO_API GEOM2_Polygon {
   /// The cut angle is that of the line through the points in which the two parallels
   /// of the axis at +d and -d meet the outline; where one of them misses, of the line
   /// through the other's point and that of the axis, and where both miss, that of the edge
-  /// which the axis meets. An end that does not meet the outline keeps its
-  /// angle, an end that already lies on it is not moved, and the axis never gets
+  /// which the axis meets. An end that does not meet the outline keeps its angle, also one
+  /// that the axis reaches along an edge. An end that already lies on it, within 2e-6 and
+  /// 2e-8 of the axis' length, is not moved, so that an axis whose place and angle were
+  /// rounded to six decimals is the same; and the axis never gets
   /// longer: cutting a second time changes nothing at all. Angles are bounded by 85
   /// degrees; where the two cuts would cross within d of the axis, neither takes more
   /// than half of its length.

@@ -49,9 +49,9 @@ const Streckenstueck* InnenBei(std::span<const Streckenstueck> stuecke, double v
 /// inside on the left of every edge.
 class Achssicht {
  public:
-  Achssicht(const GEOM2_Polygon& polygon, const XY& start, const XY& richtung,
-            lintavo::Speicher speicher)
-      : ecken_(speicher) {
+  Achssicht(const GEOM2_Polygon& polygon, const XY& start, const XY& richtung, double laenge,
+            double tol, lintavo::Speicher speicher)
+      : laenge_(laenge), tol_(tol), ecken_(speicher) {
     ecken_.reserve(polygon.GetEcken().size());
     for (const GEOM2_Eckpunkt& ecke : polygon.GetEcken()) {
       const XY p = lintavo::Differenz(lintavo::Ort(ecke), start);
@@ -75,7 +75,8 @@ class Achssicht {
  private:
   const XY& Danach(std::size_t i) const { return ecken_[i + 1 == ecken_.size() ? 0 : i + 1]; }
 
-  /// Lean of the edge on which (u, 0) lies; of several the one most across the axis.
+  /// Lean of the edge on which (u, 0) lies; of several the one most across the axis. One
+  /// that the axis runs along does not end it, unless at its corner another one does.
   bool Kantentangens(double u, double& tangens) const {
     double amStaerksten = -1.0;
     for (std::size_t i = 0; i < ecken_.size(); ++i) {
@@ -86,11 +87,11 @@ class Achssicht {
       if (!(laenge > kNullLaenge)) continue;
       const double entlang = -lintavo::Skalarprodukt(p, weg) / laenge;
       const double neben = lintavo::Kreuzprodukt(weg, p) / laenge;
-      if (entlang < -2 * kNullLaenge || entlang > laenge + 2 * kNullLaenge ||
-          std::fabs(neben) > 2 * kNullLaenge) {
+      if (entlang < -2 * tol_ || entlang > laenge + 2 * tol_ || std::fabs(neben) > 2 * tol_) {
         continue;
       }
       const double quer = std::fabs(weg.y) / laenge;
+      if (quer * std::min(laenge, laenge_) <= 2 * tol_) continue;
       if (quer <= amStaerksten + lintavo::kParallelSinus) continue;
       amStaerksten = quer;
       tangens = Tangens(weg);
@@ -99,9 +100,9 @@ class Achssicht {
   }
 
   /// Whether an edge keeps clear of the axis, as most do: no need to measure it.
-  static bool IstNeben(const XY& p, const XY& q) {
-    constexpr double kWeit = 1000 * kNullLaenge;
-    return (p.y > kWeit && q.y > kWeit) || (p.y < -kWeit && q.y < -kWeit);
+  bool IstNeben(const XY& p, const XY& q) const {
+    const double weit = 1000 * tol_;
+    return (p.y > weit && q.y > weit) || (p.y < -weit && q.y < -weit);
   }
 
   /// Lean of the line through the points in which the two parallels at d meet the outline;
@@ -136,7 +137,7 @@ class Achssicht {
       const XY& von = sinn > 0 ? ecken_[i] : Danach(i);
       const XY& bis = sinn > 0 ? Danach(i) : ecken_[i];
       const double hoehe = bis.y - von.y;
-      if (!(hoehe > kNullLaenge) || von.y > v + kNullLaenge || bis.y < v - kNullLaenge) continue;
+      if (!(hoehe > tol_) || von.y > v + tol_ || bis.y < v - tol_) continue;
       const double anteil = std::clamp((v - von.y) / hoehe, 0.0, 1.0);
       const double hier = von.x + (bis.x - von.x) * anteil;
       if (std::fabs(hier - u) >= naechster) continue;
@@ -146,8 +147,19 @@ class Achssicht {
     return std::isfinite(naechster);
   }
 
+  double laenge_;
+  double tol_;
   Liste<XY> ecken_;
 };
+
+/// How far a point may lie outside and still be inside: an end, which is half way behind
+/// the last inside, lies on the outline within twice that.
+double Einlass(const GEOM2_Polygon& polygon, double laenge) {
+  XY min;
+  XY max;
+  polygon.GetMinMax(min, max);
+  return kNullLaenge + lintavo::kAchsende * std::min(laenge, lintavo::Abstand(min, max));
+}
 
 /// Cuts that would cross within d of the axis are leaned back until neither takes more
 /// than half of the length.
@@ -164,16 +176,17 @@ void WinkelSetzen(double tangens, double& winkel) {
   if (!(std::fabs(neu - winkel) <= lintavo::kGleicherWinkel)) winkel = neu;
 }
 
-// The piece at a stretch of the axis, or without one the longest.
-bool AufStueckKuerzen(const GEOM2_Polygon& polygon, double d, std::optional<Streckenstueck> bei,
-                      GEOM2_Achse& achse) {
+// The piece at a stretch of the axis, or without one the longest. `einseitig` tells that it
+// was cut at one end only.
+bool EinmalKuerzen(const GEOM2_Polygon& polygon, double d, std::optional<Streckenstueck> bei,
+                   GEOM2_Achse& achse, bool& einseitig) {
   const double phi = achse.dWinkel * lintavo::kRadiantJeGrad;
   const XY richtung{std::cos(phi), std::sin(phi)};
   lintavo::Arbeitsspeicher speicher;
   Liste<Streckenstueck> stuecke(&speicher);
+  const double tol = Einlass(polygon, achse.dLaenge);
   if (achse.dLaenge >= kNullLaenge) {
-    stuecke = lintavo::StreckeTeilen(achse.Start, richtung, achse.dLaenge, polygon, kNullLaenge,
-                                     &speicher);
+    stuecke = lintavo::StreckeTeilen(achse.Start, richtung, achse.dLaenge, polygon, tol, &speicher);
   }
   const Streckenstueck* innen =
       bei.has_value() ? InnenBei(stuecke, bei->von, bei->bis) : LaengstesInnen(stuecke);
@@ -183,6 +196,7 @@ bool AufStueckKuerzen(const GEOM2_Polygon& polygon, double d, std::optional<Stre
   }
   const bool ganzerAnfang = innen == &stuecke.front();
   const bool ganzesEnde = innen == &stuecke.back();
+  einseitig = ganzerAnfang != ganzesEnde;
   const double von = ganzerAnfang ? 0.0 : innen->von;
   if (!ganzesEnde) {
     achse.dLaenge = innen->bis - von;
@@ -192,7 +206,7 @@ bool AufStueckKuerzen(const GEOM2_Polygon& polygon, double d, std::optional<Stre
   if (!ganzerAnfang) achse.Start = lintavo::Summe(achse.Start, lintavo::Mal(richtung, von));
 
   const double breite = std::isfinite(d) ? std::fabs(d) : 0.0;
-  const Achssicht sicht(polygon, achse.Start, richtung, &speicher);
+  const Achssicht sicht(polygon, achse.Start, richtung, achse.dLaenge, tol, &speicher);
   double anfang = std::tan(achse.dWinkelAnfang * lintavo::kRadiantJeGrad);
   double schluss = std::tan(achse.dWinkelEnde * lintavo::kRadiantJeGrad);
   const bool amAnfang = sicht.Schnitttangens(0.0, breite, -1, anfang);
@@ -201,6 +215,14 @@ bool AufStueckKuerzen(const GEOM2_Polygon& polygon, double d, std::optional<Stre
   if (amAnfang) WinkelSetzen(anfang, achse.dWinkelAnfang);
   if (amEnde) WinkelSetzen(schluss, achse.dWinkelEnde);
   return true;
+}
+
+bool AufStueckKuerzen(const GEOM2_Polygon& polygon, double d, std::optional<Streckenstueck> bei,
+                      GEOM2_Achse& achse) {
+  bool einseitig = false;
+  if (!EinmalKuerzen(polygon, d, bei, achse, einseitig)) return false;
+  // The end that stayed is to rest as that of a shorter axis, too.
+  return !einseitig || EinmalKuerzen(polygon, d, std::nullopt, achse, einseitig);
 }
 
 }  // namespace

@@ -46,6 +46,10 @@ inline constexpr double kSenkrechteSteigung = 1e10;
 /// Twice the signed area above which a ring is counter-clockwise.
 inline constexpr double kOrientierung = 1e-6;
 
+/// Where the ends of an axis count as lying on an outline, in parts of its length: files
+/// keep six decimals of its angle, which move its end by that much to the side.
+inline constexpr double kAchsende = 1e-8;
+
 /// Width of the strip along an outline by which its area may exceed another's while both
 /// still count as equal. Files keep six decimals of every distance between axes: when one
 /// of two equal outlines has to be chosen, the rest that got lost must not choose it.
