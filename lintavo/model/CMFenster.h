@@ -358,6 +358,7 @@ class LINTAVO_API CMFenster {
                            std::vector<GEOM2_Polygon>& grundformen);
   void Rechne(bool bPfostenRiegelAutomatisch);
   void RahmenUmrissBilden(const std::vector<GEOM2_Polygon>& grundformen);
+  void RahmenUmrissBeginnen(const std::vector<GEOM2_Polygon>& grundformen);
   void RahmenBauen(bool bPfostenRiegelAutomatisch, const std::vector<GEOM2_Polygon>& grundformen);
   void PfostenUndRiegelLegen();
   void FluegelBauen(const std::vector<GEOM2_Polygon>& grundformen);

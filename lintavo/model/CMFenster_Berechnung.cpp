@@ -6,9 +6,11 @@
 #include "lintavo/model/CMFenster.h"
 #include "lintavo/model/CMFenster_Stich_intern.h"
 #include "lintavo/model/Fehler_intern.h"
+#include "lintavo/platform/Arbeitsspeicher_intern.h"
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/Auflager_intern.h"
 #include "lintavo/sash/Aussenanschluss_intern.h"
+#include "lintavo/sash/Bogenseiten_intern.h"
 
 using lintavo::StringId;
 
@@ -84,13 +86,43 @@ void CMFenster::RahmenUmrissBilden(const std::vector<GEOM2_Polygon>& grundformen
   rahmen_.RahmenPolygon.Clear();
   bPolygoneAddieren(grundformen, rahmen_.RahmenPolygon, lintavo::kVereinigung, box);
   rahmen_.RahmenPolygon.SetOrientierung(true);
+  RahmenUmrissBeginnen(grundformen);
   box_ = {box[0], box[1], box[2], box[3]};
+}
+
+// The numbers of sides and parts count from the outline's start, and a bent part does not
+// go on across it. So it starts at the first vertex of a sash, in their order, that is not
+// inside a bent part; where all are, it stays at the first.
+void CMFenster::RahmenUmrissBeginnen(const std::vector<GEOM2_Polygon>& grundformen) {
+  GEOM2_Polygon& umriss = rahmen_.RahmenPolygon;
+  const auto count = static_cast<std::size_t>(umriss.GetAnzahl());
+  lintavo::Arbeitsspeicher speicher;
+  const lintavo::Liste<bool> gebogen =
+      lintavo::Bogenseiten(umriss, GetRahmenAbschnitt(), kGroessteWendung, &speicher);
+  const auto imBogen = [&](std::size_t i) {
+    return gebogen[i] && gebogen[(i + count - 1) % count];
+  };
+  if (count == 0 || !imBogen(0)) return;
+  const std::vector<GEOM2_Eckpunkt> ecken(umriss.GetEcken().begin(), umriss.GetEcken().end());
+  for (const GEOM2_Polygon& form : grundformen) {
+    for (const GEOM2_Eckpunkt& ecke : form.GetEcken()) {
+      const auto hier = std::find_if(ecken.begin(), ecken.end(), [&](const GEOM2_Eckpunkt& e) {
+        return e.x == ecke.x && e.y == ecke.y;  // the union keeps them to the last bit
+      });
+      const auto i = static_cast<std::size_t>(hier - ecken.begin());
+      if (i == count || imBogen(i)) continue;
+      umriss.Clear();
+      for (std::size_t n = 0; n < count; ++n) umriss.AddPunkt(ecken[(i + n) % count]);
+      return;
+    }
+  }
 }
 
 // Frame parts, mullions, transoms, and extra parts of the frame.
 void CMFenster::RahmenBauen(bool bPfostenRiegelAutomatisch,
                             const std::vector<GEOM2_Polygon>& grundformen) {
-  rahmen_.RahmenSegmenteZusammenfassen(rahmenAbschnitt_, kGroessteWendung, rahmen_.RahmenPolygon);
+  rahmen_.RahmenSegmenteZusammenfassen(GetRahmenAbschnitt(), kGroessteWendung,
+                                       rahmen_.RahmenPolygon);
   rahmen_.ErzeugeRahmenBauteile();
   GEOM2_Polygon innen;
   if (rahmen_.ErzeugeRahmenInnenPolygon(innen)) {
@@ -104,10 +136,10 @@ void CMFenster::RahmenBauen(bool bPfostenRiegelAutomatisch,
 
 void CMFenster::FluegelBauen(const std::vector<GEOM2_Polygon>& grundformen) {
   const lintavo::Auflager auflager(rahmen_);
+  const double abschnitt = GetRahmenAbschnitt();
   for (std::size_t i = 0; i < fluegel_.size() && i < grundformen.size(); ++i) {
     CMFensterSatz& fluegel = *fluegel_[i];
-    if (!fluegel.BerechneRahmenPolygon(rahmenAbschnitt_, kGroessteWendung, auflager,
-                                       grundformen[i])) {
+    if (!fluegel.BerechneRahmenPolygon(abschnitt, kGroessteWendung, auflager, grundformen[i])) {
       // The number counts from 0, as the message always has.
       throw CMException(static_cast<int>(StringId::MeldungKeinFluegelpolygon),
                         static_cast<long>(i));

@@ -10,14 +10,13 @@
 #include "lintavo/platform/Arbeitsspeicher_intern.h"
 #include "lintavo/resources/StringTable.h"
 #include "lintavo/sash/Auflager_intern.h"
+#include "lintavo/sash/Bogenseiten_intern.h"
 #include "lintavo/sash/CMFensterSatz.h"
 #include "lintavo/sash/Zusatzteilkette_intern.h"
 
 namespace {
 
 using lintavo::Liste;
-
-constexpr double kVollkreis = 360.0;
 
 [[noreturn]] void ThrowRahmenpolygon() {
   throw CMException(static_cast<int>(lintavo::StringId::MeldungKeinRahmenpolygon));
@@ -36,15 +35,6 @@ Seite SeiteVon(const GEOM2_Polygon& polygon, int i) {
   Seite seite;
   polygon.GetKante(i, seite.a, seite.b);
   return seite;
-}
-
-double InsVolleKreisMasz(double winkel) {
-  return winkel < -lintavo::kNullLaenge ? winkel + kVollkreis : winkel;
-}
-
-double RichtungInGrad(const Seite& seite) {
-  return InsVolleKreisMasz(std::atan2(seite.b.y - seite.a.y, seite.b.x - seite.a.x) * 180.0 /
-                           lintavo::kPi);
 }
 
 // A point in the frame of a side: u along it from its start, v to its left.
@@ -220,30 +210,13 @@ long CMFensterSatz::RahmenSegmenteZusammenfassen(double maxLength, double maxAng
   if (count == 0 || lForm < eFormRechteck) return -1;
 
   lintavo::Arbeitsspeicher speicher;
-  Liste<double> richtung(&speicher);
-  richtung.reserve(static_cast<std::size_t>(count));
-  for (int i = 0; i < count; ++i) richtung.push_back(RichtungInGrad(SeiteVon(polygon, i)));
-  const auto turn = [&](int from, int to) {
-    return InsVolleKreisMasz(richtung[static_cast<std::size_t>(to)] -
-                             richtung[static_cast<std::size_t>(from)]);
-  };
-  // A vertical side is the straight end of an arch and stays a part of its own.
-  const auto isVertical = [&](int i) {
-    return std::fabs(std::cos(richtung[static_cast<std::size_t>(i)] * lintavo::kPi / 180.0)) <=
-           lintavo::kNullLaenge;
-  };
-  const auto isMergeSide = [&](int i) {
-    const bool bent =
-        turn((i + count - 1) % count, i) < maxAngle || turn(i, (i + 1) % count) < maxAngle;
-    return bent && polygon.GetKantenLaenge(i) < maxLength && !isVertical(i);
-  };
-
+  const Liste<bool> bogenseiten = lintavo::Bogenseiten(polygon, maxLength, maxAngle, &speicher);
   // A run of merge sides shares a number. The run across the ring's start is
   // not joined: side 0 always opens a part of its own.
   int number = -1;
   bool previousMerges = false;
   for (int i = 0; i < count; ++i) {
-    const bool merges = isMergeSide(i);
+    const bool merges = bogenseiten[static_cast<std::size_t>(i)];
     if (!merges || !previousMerges) ++number;
     polygon.SetAttribut(i, number);
     previousMerges = merges;
