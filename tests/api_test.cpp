@@ -152,6 +152,27 @@ TEST(Fassade, OpeningParametersCompareByMagnitude) {
   EXPECT_TRUE(a != b);
 }
 
+TEST(Fassade, TheSectionValueIsOfTheObjectAndGrowsWithTheWindow) {
+  CFeApi api;
+  EXPECT_EQ(api.GetRahmenAbschnitt(), 100.0);
+  for (const double bad : {-1.0, std::nan(""), HUGE_VAL}) EXPECT_EQ(api.SetRahmenAbschnitt(bad), 0);
+  CMFenster grosz = Raster(2, 1, 600.0, 900.0);
+  ASSERT_TRUE(grosz.Berechne(false));
+  ASSERT_EQ(api.SetFenster(grosz), 1);
+  EXPECT_EQ(api.GetRahmenAbschnitt(), 200.0);
+  ASSERT_EQ(api.SetRahmenAbschnitt(1.0), 1);
+  // An arch of single sides, of a copy and of the next file too.
+  CFeApi copy(api);
+  const std::string bogen = BeispielPfad("rundbogen.aqz");
+  ASSERT_EQ(copy.ReadFromFile(bogen.c_str()), 1);
+  EXPECT_EQ(copy.GetRahmenAbschnitt(), 1.0);
+  const long sides = copy.GetAnzahlRahmenBauteile(1);
+  EXPECT_EQ(copy.SetRahmenAbschnitt(0.0), 1);
+  ASSERT_EQ(copy.Berechne(), 1);
+  EXPECT_EQ(copy.GetRahmenAbschnitt(), 100.0);
+  EXPECT_LT(copy.GetAnzahlRahmenBauteile(1), sides);
+}
+
 TEST(Fassade, SettersRefuseWhatIsNoMeasureAndChangeTheNextCalculation) {
   CFeApi api;
   ASSERT_EQ(api.ReadFromFile(BeispielPfad("drehkipp_einfluegelig.aqz").c_str()), 1);

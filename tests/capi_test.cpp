@@ -158,6 +158,7 @@ TEST_P(CApi, FrameAnswersAsTheFacade) {
   Same(lintavo_window_get_fenster_hoehe, &CFeApi::GetFensterHoehe);
   Same(lintavo_window_get_rahmen_breite, &CFeApi::GetRahmenBreite);
   Same(lintavo_window_get_rahmen_dicke, &CFeApi::GetRahmenDicke);
+  Same(lintavo_window_get_rahmen_abschnitt, &CFeApi::GetRahmenAbschnitt);
   SameText(lintavo_window_get_fenster_bezeichnung, &CFeApi::GetFensterBezeichnung);
   for (long art = 0; art <= 3; ++art) {
     const long parts =
@@ -295,6 +296,7 @@ TEST(CApiEdits, SettersStoreAndCalculationApplies) {
   const Window w("sprossen_und_zusatzteile.aqz");
   EXPECT_EQ(lintavo_window_set_rahmen_breite(w, 8.5), 1);
   EXPECT_EQ(lintavo_window_set_rahmen_dicke(w, 7.25), 1);
+  EXPECT_EQ(lintavo_window_set_rahmen_abschnitt(w, 12.5), 1);
   EXPECT_EQ(lintavo_window_set_fluegel_rahmen_breite(w, 0, 6.5), 1);
   EXPECT_EQ(lintavo_window_set_fluegel_rahmen_dicke(w, 0, 5.5), 1);
   EXPECT_EQ(lintavo_window_set_fluegel_ueberschlag(w, 0, 1.25), 1);
@@ -303,6 +305,7 @@ TEST(CApiEdits, SettersStoreAndCalculationApplies) {
   EXPECT_EQ(lintavo_window_set_sprossen_dicke(w, 0, 0, 3.5), 1);
   EXPECT_EQ(lintavo_window_berechne(w), 1);
   const CFeApi& api = w.Api();
+  EXPECT_EQ(api.GetRahmenAbschnitt(), 12.5);
   EXPECT_EQ((Doubles{8.5, 7.25, 6.5, 5.5, 1.25, 2.5, 3.5}),
             (Doubles{api.GetRahmenBreite(), api.GetRahmenDicke(), api.GetFluegelRahmenBreite(0),
                      api.GetFluegelRahmenDicke(0), api.GetFluegelUeberschlag(0),

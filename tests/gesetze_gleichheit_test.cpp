@@ -171,6 +171,63 @@ TEST(Gesetze, FittingOneEndOfAnOuterPartLeavesTheOther) {
       100);
 }
 
+// Files round the angles of bars, which at the far end of a long one is more than the
+// roundings of lengths.
+TEST(Gesetze, BarsAtAnyAngleKeepTheirCutsInAFile) {
+  JedesFenster(
+      [](const Fensterentwurf& entwurf, CMFenster&) {
+        if (entwurf.maszstab != 1.0) return;
+        Wuerfel wuerfel(entwurf.seed);
+        // Of three decimals, as all lengths, so that files keep the window itself exactly.
+        const double faktor = std::round(std::pow(10.0, wuerfel.Laenge(1.0, 5.0))) / 1000.0;
+        CMFenster fenster = Gelesen(Vergroeszert(entwurf, faktor));
+        Berechne(fenster);
+        for (long i = 0; i < fenster.GetAnzahlFluegel(); ++i) {
+          CMFensterSatz& fluegel = *fenster.GetFluegelPtr(i);
+          GEOM2_Polygon kontur;
+          if (!fluegel.ErzeugeRahmenInnenPolygon(true, kontur)) continue;
+          XY low;
+          XY high;
+          kontur.GetMinMax(low, high);
+          const auto punkt = [&](double y) {
+            return XY{low.x + (high.x - low.x) * wuerfel.Laenge(-0.2, 1.2), y};
+          };
+          CMBauteil vorlage;
+          vorlage.dBreite = 2.0 * faktor;
+          const XY oben = punkt(high.y + faktor);
+          fluegel.AddSprosse(vorlage, oben, punkt(low.y - faktor), kontur);
+        }
+        Berechne(fenster);
+        const std::vector<std::string> zeilen = Zeilen(fenster);
+        const CMFenster wieder = Gelesen(zeilen);
+        EXPECT_EQ(Zeilen(wieder), zeilen);
+        for (long i = 0; i < fenster.GetAnzahlFluegel(); ++i) {
+          const std::vector<CMBauteil>& vorher = fenster.GetFluegelPtr(i)->Sprossen;
+          const std::vector<CMBauteil>& nachher = wieder.GetFluegelPtr(i)->Sprossen;
+          for (std::size_t n = 0; n < vorher.size() && n < nachher.size(); ++n) {
+            const GEOM2_Achse& a = vorher[n].Achse(0);
+            const GEOM2_Achse& b = nachher[n].Achse(0);
+            if (a.dLaenge < faktor) continue;
+            EXPECT_NEAR(a.dWinkelAnfang, b.dWinkelAnfang, 0.01) << "bar " << n << " of sash " << i;
+            EXPECT_NEAR(a.dWinkelEnde, b.dWinkelEnde, 0.01) << "bar " << n << " of sash " << i;
+          }
+        }
+      },
+      100);
+}
+
+// Bent parts are whole, whichever sash is the first of the list.
+TEST(Gesetze, TheOrderOfTheSashesDoesNotCutAnArch) {
+  JedesFenster([](const Fensterentwurf& entwurf, CMFenster& fenster) {
+    Fensterentwurf anders = entwurf;
+    std::rotate(anders.fluegel.begin(), anders.fluegel.begin() + 1, anders.fluegel.end());
+    CMFenster gedreht = Gelesen(anders);
+    Berechne(gedreht, entwurf.pfostenAutomatisch);
+    EXPECT_EQ(gedreht.GetRahmenPtr()->lGetAnzahlRahmenBauteile(),
+              fenster.GetRahmenPtr()->lGetAnzahlRahmenBauteile());
+  });
+}
+
 // Growing and shrinking to the size before. Bars are left out: they keep their
 // coordinates and are only ever shortened.
 TEST(Gesetze, FittingThereAndBackTenTimesIsTheIdentity) {
@@ -257,22 +314,31 @@ TEST(Gesetze, AShiftedGridShiftsEverything) {
   });
 }
 
-// Lengths that files keep exactly, twice as large in everything, the longest side of a bent part
-// included. Tolerances do not grow: an outline may have an almost superfluous vertex, or a side of
-// up to 0.1 at a corner, that the other has not.
+// Ten times as large in everything, as in millimetres. Tolerances do not grow: an outline
+// may have an almost superfluous vertex, or a side of up to 0.1 at a corner, that the other
+// has not. The longest side of a bent part is a sixth of the larger one as it is; of the
+// smaller one it would be 100, so that it merges longer sides that turn by little.
 TEST(Gesetze, ALargerWindowIsTheSameLarger) {
-  constexpr double kFaktor = 2.0;
-  constexpr double kBereinigung = 0.1;
+  constexpr double kFaktor = 10.0;
+  constexpr double kBereinigung = 0.1 * kFaktor;
   JedesFenster([](const Fensterentwurf& entwurf, CMFenster& fenster) {
     if (entwurf.maszstab != 1.0) return;
+    XY low;
+    XY high;
+    fenster.GetRahmenPtr()->RahmenPolygon.GetMinMax(low, high);
+    const double abschnitt = std::max(high.x - low.x, high.y - low.y) / 6.0;
+    if (abschnitt * kFaktor < 100.0) return;
+    CMFenster klein = Gelesen(entwurf);
+    klein.SetRahmenAbschnitt(abschnitt);
+    Berechne(klein, entwurf.pfostenAutomatisch);
     CMFenster grosz = Gelesen(Vergroeszert(entwurf, kFaktor));
-    grosz.SetRahmenAbschnitt(kFaktor * grosz.GetRahmenAbschnitt());
     Berechne(grosz, entwurf.pfostenAutomatisch);
+    EXPECT_NEAR(grosz.GetRahmenAbschnitt(), abschnitt * kFaktor, 1e-6);
     const auto mal = [](std::vector<GEOM2_Polygon> polygone) {
       for (GEOM2_Polygon& p : polygone) p.Transformieren(kFaktor, 0.0, 0.0, 0.0);
       return polygone;
     };
-    const Bestand erwartet = BestandVon(fenster);
+    const Bestand erwartet = BestandVon(klein);
     const Bestand ist = BestandVon(grosz);
     ErwarteGleicheFormen(mal(erwartet.umrisse), ist.umrisse, kBereinigung, "outline");
     ErwarteGleicheFormen(mal(erwartet.konturen), ist.konturen, kBereinigung, "contour");

@@ -388,7 +388,6 @@ const Fehlerfall kFehler[] = {
     {"NoFrame", "[Allgemeines]\nTyp=Einfluegelig\n[Rahmen]\nMit Rahmen=0\n", 80, "(zu viele"},
     {"MoreFrameParts", "[Allgemeines]\nTyp=Flach\n[Rahmen]\nR1=70,1,2,1,2\n", 81,
      "Formänderung  (zu wenig Rahmenbauteile) !"},
-    {"ArchFallsApart", "[Allgemeines]\nTyp=Rundbogen\n[Masze]\nBreite=30000\n", 81, "(zu wenig"},
     {"FewerSashParts", "[Allgemeines]\nTyp=Oberlicht\n[Fluegel3]\nF1=0,15,1,3,1,3\n", 82,
      "Es sind zu viele Rahmenbauteile im Flügel 'Flügel rechts'."},
     {"MoreSashParts", "[Allgemeines]\nTyp=Oberlicht\n[Fluegel2]\nMit Rahmen=1\n", 84,

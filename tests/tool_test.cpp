@@ -116,6 +116,12 @@ TEST_F(Tool, DrawsAWindowFittedFirst) {
   EXPECT_EQ(png.height, 1600u);
 }
 
+TEST_F(Tool, ASectionValueBelowItsSidesTakesAnArchApart) {
+  const std::string form = "form '" + kWindows + "rundbogen.aqz' -o - ";
+  EXPECT_GT(Run(form + "--section 1").out.size(), Run(form).out.size());
+  EXPECT_EQ(Run(form + "--section 100").out, Run(form).out);
+}
+
 TEST_F(Tool, DrawsEveryExample) {
   int drawn = 0;
   for (const fs::directory_entry& entry : fs::directory_iterator(kWindows)) {

@@ -7,6 +7,7 @@
 
 #include "lintavo/drawing/Text.h"
 
+#include "Checks.h"
 #include "Text.h"
 
 namespace lintavo::tools {
@@ -100,6 +101,15 @@ void AddFiles(CLI::App& command, FileArguments& files, const std::string& descri
 void AddFlagsForSeveral(CLI::App& command, FileArguments& files) {
   command.add_flag("-r,--recursive", files.recursive, "Look into the folders in folders too");
   command.add_flag("-q,--quiet", files.quiet, "No progress and no summary of several files");
+}
+
+void AddSection(CLI::App& command, FileArguments& files) {
+  command
+      .add_option("--section", files.section,
+                  "Merge shorter sides of arches into one frame part; where not given, those "
+                  "below 100 or a sixth of the window, whichever is more")
+      ->check(CheckLength)
+      ->type_name("LENGTH");
 }
 
 CLI::Option* AddTarget(CLI::App& command, std::string& target, const std::string& description) {

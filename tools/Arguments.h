@@ -24,6 +24,9 @@ void AddFiles(CLI::App& command, FileArguments& files, const std::string& descri
 /// The flags alone.
 void AddFlagsForSeveral(CLI::App& command, FileArguments& files);
 
+/// "--section LENGTH", which `LoadWindow` takes.
+void AddSection(CLI::App& command, FileArguments& files);
+
 /// "-o,--output TARGET"; may be a folder or a pattern, see `FindTargets`.
 CLI::Option* AddTarget(CLI::App& command, std::string& target, const std::string& description);
 

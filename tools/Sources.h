@@ -11,6 +11,7 @@ struct FileArguments {
   std::vector<std::string> paths;  ///< files, folders, "-" for standard input
   bool recursive = false;          ///< folders within folders too
   bool quiet = false;              ///< no progress, no summary
+  std::string section;             ///< the frame's section value, a length; may be empty
 };
 
 /// One file to work on.

@@ -8,6 +8,7 @@
 #include "lintavo/settings/CMFensterPosition.h"
 
 #include "MacroText.h"
+#include "Numbers.h"
 #include "OldFile.h"
 #include "System.h"
 
@@ -113,7 +114,9 @@ int ReadLines(const std::vector<std::string>& lines, CFeApi& window) {
   return window.ReadFromBuffer(static_cast<long>(text.size()), text.data(), '\0');
 }
 
-void LoadWindow(const std::string& path, CFeApi& window) {
+void LoadWindow(const std::string& path, const std::string& section, CFeApi& window) {
+  double length = 0.0;
+  if (ParseLength(section, length)) window.SetRahmenAbschnitt(length);
   std::string bytes;
   const bool opened = ReadBytes(path, bytes);
   int read = 0;

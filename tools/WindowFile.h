@@ -22,8 +22,8 @@ MacroForm FormOf(const std::string& path, std::string_view bytes);
 
 /// Reads and calculates a macro file in the form that `FormOf` tells. Throws `CommandError` with
 /// the library's own message, for a file that is cut off, and for one without any sash; the text
-/// names the file.
-void LoadWindow(const std::string& path, CFeApi& window);
+/// names the file. A section value, the text of a length, takes the place of the default.
+void LoadWindow(const std::string& path, const std::string& section, CFeApi& window);
 
 /// Fills the window from a macro file's lines and calculates it; 0 when that fails.
 int ReadLines(const std::vector<std::string>& lines, CFeApi& window);

@@ -124,6 +124,13 @@ class LINTAVO_API CFeApi {
   double GetRahmenDicke() const;         ///< thickness of the first frame part, 0.0 without one
   int SetRahmenBreite(double width);     ///< all frame parts; width at least 1e-6
   int SetRahmenDicke(double thickness);  ///< all frame parts; thickness at least 1e-6
+  /// The frame's section value: sides shorter than this that turn by less than 25 degrees
+  /// are merged into one bent frame part, of the frame and of the sashes. Where none is set
+  /// it is 100 or, if that is more, a sixth of the larger extent of the calculated frame.
+  double GetRahmenAbschnitt() const;
+  /// Sets it for the next calculations, above 0; 0 sets back the default. No file has it:
+  /// reading another window keeps it, copies have it.
+  int SetRahmenAbschnitt(double length);
   /// Number of frame components of kind 1 or 2 that have a width and a length.
   long GetAnzahlRahmenBauteile(long lArt) const;
   long GetAnzahlRahmenBauteilSegmente(long lArt, long i) const;

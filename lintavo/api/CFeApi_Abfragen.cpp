@@ -1,4 +1,5 @@
 // The façade's queries and setters: check, look up, read or store.
+#include <cmath>
 #include <cstring>
 #include <utility>
 #include <vector>
@@ -151,6 +152,16 @@ int CFeApi::SetRahmenBreite(double width) {
 int CFeApi::SetRahmenDicke(double thickness) {
   return SetzeRahmen(pFenster_ ? pFenster_->GetRahmenPtr() : nullptr, &CMBauteil::dDicke,
                      thickness);
+}
+
+double CFeApi::GetRahmenAbschnitt() const {
+  return pFenster_ ? pFenster_->GetRahmenAbschnitt() : 0.0;
+}
+
+int CFeApi::SetRahmenAbschnitt(double length) {
+  if (!pFenster_ || !(length >= 0.0) || !std::isfinite(length)) return 0;
+  pFenster_->SetRahmenAbschnitt(length);
+  return 1;
 }
 
 long CFeApi::GetAnzahlRahmenBauteile(long lArt) const {

@@ -25,6 +25,14 @@ int lintavo_window_set_rahmen_dicke(lintavo_window* window, double thickness) {
   return window ? window->api.SetRahmenDicke(thickness) : 0;
 }
 
+double lintavo_window_get_rahmen_abschnitt(const lintavo_window* window) {
+  return window ? window->api.GetRahmenAbschnitt() : 0.0;
+}
+
+int lintavo_window_set_rahmen_abschnitt(lintavo_window* window, double length) {
+  return window ? window->api.SetRahmenAbschnitt(length) : 0;
+}
+
 long lintavo_window_get_anzahl_rahmen_bauteile(const lintavo_window* window, long art) {
   return window ? window->api.GetAnzahlRahmenBauteile(art) : 0;
 }

@@ -37,6 +37,17 @@ LINTAVO_API double lintavo_window_get_rahmen_dicke(const lintavo_window* window)
 /** Give all frame parts one width or thickness, at least 1e-6. */
 LINTAVO_API int lintavo_window_set_rahmen_breite(lintavo_window* window, double width);
 LINTAVO_API int lintavo_window_set_rahmen_dicke(lintavo_window* window, double thickness);
+/**
+ * The frame's section value: sides shorter than this that turn by less than 25 degrees are
+ * merged into one bent frame part, of the frame and of the sashes. Where none is set it is
+ * 100 or, if that is more, a sixth of the larger extent of the calculated frame.
+ */
+LINTAVO_API double lintavo_window_get_rahmen_abschnitt(const lintavo_window* window);
+/**
+ * Sets it for the next calculations, above 0; 0 sets back the default. No file has it:
+ * reading another window keeps it, copies have it.
+ */
+LINTAVO_API int lintavo_window_set_rahmen_abschnitt(lintavo_window* window, double length);
 /** Number of frame components of kind 1 or 2 that have a width and a length. */
 LINTAVO_API long lintavo_window_get_anzahl_rahmen_bauteile(const lintavo_window* window, long art);
 /** Number of segments of frame component `i`; a straight part has one. */

@@ -24,6 +24,10 @@ namespace {
 // that sashes may touch.
 constexpr double kUeberlappungsSpiel = 0.1;
 
+// The section value where none is set.
+constexpr double kRahmenAbschnitt = 100.0;
+constexpr double kAbschnittJeAusdehnung = 1.0 / 6.0;
+
 using FluegelListe = std::vector<std::unique_ptr<CMFensterSatz>>;
 
 FluegelListe Copy(const FluegelListe& source) {
@@ -148,6 +152,19 @@ void CMFenster::SetErrorMsg(const CString& text) {
 void CMFenster::SetBitmaps(const CString& bitmap1, const CString& bitmap2) {
   bitmap1_ = bitmap1;
   bitmap2_ = bitmap2;
+}
+
+double CMFenster::GetRahmenAbschnitt() const {
+  if (rahmenAbschnitt_ > 0.0) return rahmenAbschnitt_;
+  XY low;
+  XY high;
+  if (!rahmen_.RahmenPolygon.GetMinMax(low, high)) return kRahmenAbschnitt;
+  const double ausdehnung = std::max(high.x - low.x, high.y - low.y);
+  return std::max(kRahmenAbschnitt, ausdehnung * kAbschnittJeAusdehnung);
+}
+
+void CMFenster::SetRahmenAbschnitt(double length) {
+  rahmenAbschnitt_ = length > 0.0 && std::isfinite(length) ? length : 0.0;
 }
 
 CMFensterSatz* CMFenster::NewFluegelPtr(long lForm) {

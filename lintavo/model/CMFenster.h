@@ -85,9 +85,16 @@ class LINTAVO_API CMFenster {
   /// The outer frame, owned by the window; never null.
   CMFensterSatz* GetRahmenPtr() { return &rahmen_; }
   const CMFensterSatz* GetRahmenPtr() const { return &rahmen_; }
-  /// Longest side, in drawing units, that is merged into a bent frame part.
-  double GetRahmenAbschnitt() const { return rahmenAbschnitt_; }
-  void SetRahmenAbschnitt(double length) { rahmenAbschnitt_ = length; }
+  /// The frame's section value, in drawing units: sides shorter than this that turn by
+  /// less than 25 degrees are merged into one bent frame part, of the frame and of the
+  /// sashes. Where none is set it is 100 or, if that is more, a sixth of the larger extent
+  /// of the frame's outline as last calculated, so that an arch is one part in millimetres
+  /// as it is in centimetres.
+  double GetRahmenAbschnitt() const;
+  /// Sets it for the next calculations; what is not above 0 and finite sets back the
+  /// default. It is a setting of this object and in no file: copies have it, and emptying
+  /// or reading a window keeps it.
+  void SetRahmenAbschnitt(double length);
   /// Template of the mullions and transoms that a calculation sets by itself.
   CMBauteil& GetPfostenVorlage() { return pfostenVorlage_; }
   const CMBauteil& GetPfostenVorlage() const { return pfostenVorlage_; }
@@ -371,7 +378,7 @@ class LINTAVO_API CMFenster {
   CString bitmap2_;
   CMAchsen achsen_;
   CMFensterSatz rahmen_;
-  double rahmenAbschnitt_ = 100.0;
+  double rahmenAbschnitt_ = 0.0;  // 0 for the default
   CMBauteil pfostenVorlage_;
   std::vector<std::unique_ptr<CMFensterSatz>> fluegel_;
   Box box_;

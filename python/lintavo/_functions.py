@@ -141,6 +141,8 @@ FUNCTIONS: Signatures = {
     "lintavo_window_get_rahmen_dicke": (DOUBLE, [HANDLE]),
     "lintavo_window_set_rahmen_breite": (INT, [HANDLE, DOUBLE]),
     "lintavo_window_set_rahmen_dicke": (INT, [HANDLE, DOUBLE]),
+    "lintavo_window_get_rahmen_abschnitt": (DOUBLE, [HANDLE]),
+    "lintavo_window_set_rahmen_abschnitt": (INT, [HANDLE, DOUBLE]),
     "lintavo_window_get_anzahl_rahmen_bauteile": (LONG, [HANDLE, LONG]),
     "lintavo_window_get_anzahl_rahmen_bauteil_segmente": (LONG, [HANDLE, LONG, LONG]),
     "lintavo_window_get_rahmen_bauteil_dicke": (DOUBLE, [HANDLE, LONG, LONG]),

@@ -258,6 +258,19 @@ class Window:
             raise ValueError(f"{value!r} is no thickness for the frame")
 
     @property
+    def frame_section(self) -> float:
+        """Sides shorter than this that turn by less than 25 degrees are merged into one
+        bent frame part. Where none is set it is 100 or, if that is more, a sixth of the
+        larger extent of the calculated frame; setting 0 gives that back. No file has it:
+        reading another window keeps it, copies have it."""
+        return _calls.call("lintavo_window_get_rahmen_abschnitt", self.handle)
+
+    @frame_section.setter
+    def frame_section(self, value: float) -> None:
+        if not _calls.call("lintavo_window_set_rahmen_abschnitt", self.handle, value):
+            raise ValueError(f"{value!r} is no length of a section")
+
+    @property
     def frame_parts(self) -> List[Part]:
         return _calls.parts("rahmen", self.handle, PartKind.FRAME)
 

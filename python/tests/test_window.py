@@ -143,6 +143,12 @@ class Changing(unittest.TestCase):
             self.assertAlmostEqual(sash.polygon.box.width, inner - 2 * (1 + 2))
             self.assertAlmostEqual(sash.inner_polygon(1.5).box.width, inner - 6 + 3)
             with self.assertRaises(ValueError):
+                window.frame_section = -1
+            window.frame_section = 40
+            self.assertEqual(window.frame_section, 40)
+            window.frame_section = 0
+            self.assertEqual(window.frame_section, 100)
+            with self.assertRaises(ValueError):
                 sash.frame_width = 0
             with self.assertRaises(ValueError):
                 window.frame_thickness = -1

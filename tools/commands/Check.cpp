@@ -25,7 +25,7 @@ std::string Summary(const CFeApi& window) {
 void Check(const FileArguments& files, Console& console) {
   ForEachSource(FindWindows(files), files.quiet, console, [&](const Source& source) {
     CFeApi window;
-    LoadWindow(source.path, window);
+    LoadWindow(source.path, files.section, window);
     if (files.quiet) return;
     console.Out() << DisplayName(source.path) << ": ok, " << Summary(window) << '\n';
   });
@@ -37,6 +37,7 @@ void AddCheck(CLI::App& app, Console& console) {
   const auto files = std::make_shared<FileArguments>();
   CLI::App* command = app.add_subcommand("check", "Tell which windows can be calculated");
   AddFiles(*command, *files, kWindowFiles);
+  AddSection(*command, *files);
   command->footer(
       "Windows in order are named on standard output, not with --quiet; faults on\n"
       "standard error.\n"

@@ -69,7 +69,7 @@ std::string FormatNameOf(const DrawOptions& options) {
 void DrawWindow(const Source& source, const std::string& target, const DrawOptions& options,
                 const Look& look) {
   CFeApi window;
-  LoadWindow(source.path, window);
+  LoadWindow(source.path, options.files.section, window);
   RefuseSource(source.path, target);
   double width = 0.0;
   double height = 0.0;
@@ -97,6 +97,7 @@ void AddDraw(CLI::App& app, Console& console) {
   const auto options = std::make_shared<DrawOptions>();
   CLI::App* command = app.add_subcommand("draw", "Draw windows");
   AddFiles(*command, options->files, kWindowFiles);
+  AddSection(*command, options->files);
   AddTarget(
       *command, options->target,
       "Picture to write: a name ending in .svg, .dxf, .pdf or .png, a folder/, a pattern like "

@@ -27,17 +27,18 @@ struct ExportOptions {
 
 // All windows are read before anything is written: a document breaks off for no fault of
 // a file.
-void ExportTo(const std::string& target, const std::vector<std::string>& files, bool views,
-              Console& console) {
+void ExportTo(const std::string& target, const std::vector<std::string>& files,
+              const ExportOptions& options, Console& console) {
   std::vector<CFeApi> windows(files.size());
-  for (std::size_t i = 0; i < windows.size(); ++i) LoadWindow(files[i], windows[i]);
+  for (std::size_t i = 0; i < windows.size(); ++i)
+    LoadWindow(files[i], options.files.section, windows[i]);
   WriteOutput(target, files, console, [&](std::ostream& out) {
     JsonWriter json(out);
     json.BeginObject();
     json.Add("schema", kWindowSchema);
     json.BeginArray("windows");
     for (std::size_t i = 0; i < windows.size(); ++i) {
-      WriteWindowJson(files[i], windows[i], views, json);
+      WriteWindowJson(files[i], windows[i], options.views, json);
     }
     json.End();
     json.End();
@@ -46,11 +47,11 @@ void ExportTo(const std::string& target, const std::vector<std::string>& files, 
 
 void Export(const ExportOptions& options, Console& console) {
   if (!IsForSeveral(options.target)) {
-    return ExportTo(options.target, WindowPaths(options.files), options.views, console);
+    return ExportTo(options.target, WindowPaths(options.files), options, console);
   }
   ForEachTarget(FindWindows(options.files), options.files.quiet, console, options.target, "json",
                 [&](const Source& source, const std::string& own) {
-                  ExportTo(own, {source.path}, options.views, console);
+                  ExportTo(own, {source.path}, options, console);
                 });
 }
 
@@ -61,6 +62,7 @@ void AddExport(CLI::App& app, Console& console) {
   CLI::App* command =
       app.add_subcommand("export", "Write everything about calculated windows as data");
   AddFiles(*command, options->files, kWindowFiles);
+  AddSection(*command, options->files);
   command->add_flag("--json", options->json, "As JSON, the default and only format");
   command->add_flag("--views", options->views,
                     "Add the views with hidden lines removed, of the window and of each sash");

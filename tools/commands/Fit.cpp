@@ -52,7 +52,7 @@ void Fit(FitOptions& options, Console& console) {
   ForEachTarget(sources, options.files.quiet, console, options.target, "",
                 [&](const Source& source, const std::string& target) {
                   CFeApi window;
-                  LoadWindow(source.path, window);
+                  LoadWindow(source.path, options.files.section, window);
                   FitWindow(source.path, options.width, options.height, window);
                   if (!target.empty()) SaveWindow(target, window);
                   printer.PrintResult(source.path, target, window,
@@ -74,6 +74,7 @@ void AddFit(CLI::App& app, Console& console) {
       ->option_text("FILE... WIDTH HEIGHT");
   AddTarget(*command, options->target, kWindowTarget);
   AddFlagsForSeveral(*command, options->files);
+  AddSection(*command, options->files);
   command->footer(
       "Examples:\n"
       "  lintavo fit window.aqz 180 150\n"

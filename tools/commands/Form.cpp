@@ -22,7 +22,7 @@ void Form(const FormOptions& options, Console& console) {
   ForEachTarget(FindWindows(options.files), options.files.quiet, console, options.target, "txt",
                 [&](const Source& source, const std::string& target) {
                   CFeApi window;
-                  LoadWindow(source.path, window);
+                  LoadWindow(source.path, options.files.section, window);
                   SaveForm(source.path, target, window);
                 });
 }
@@ -34,6 +34,7 @@ void AddForm(CLI::App& app, Console& console) {
   CLI::App* command = app.add_subcommand("form", "Write windows' blank parameter forms");
   AddFiles(*command, options->files,
            "Windows (aqz, cqz or a type's ini), folders of them, or - for standard input");
+  AddSection(*command, options->files);
   AddTarget(*command, options->target,
             "Form to write: a name, a folder/, a pattern like out/{name}.txt or - for standard "
             "output")

@@ -68,7 +68,7 @@ void ListTo(const std::string& target, const std::vector<std::string>& files,
   std::vector<PartsWindow> windows;
   for (const std::string& file : files) {
     CFeApi window;
-    LoadWindow(file, window);
+    LoadWindow(file, arguments.files.section, window);
     collector.Add(window);
     windows.push_back(DescribeWindow(file, window));
     windows.back().breite *= scale;
@@ -117,6 +117,7 @@ void AddParts(CLI::App& app, Console& console) {
   CLI::App* command =
       app.add_subcommand("parts", "Print the cutting list: bars, panes and fittings");
   AddFiles(*command, arguments->files, kWindowFiles);
+  AddSection(*command, arguments->files);
   AddTarget(*command, arguments->target, kListTarget);
   command->add_flag("--per-window", arguments->perWindow,
                     "List every window by itself, nothing added up");

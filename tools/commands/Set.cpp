@@ -87,7 +87,7 @@ void Set(SetOptions& options, Console& console) {
   ForEachTarget(sources, options.files.quiet, console, options.target, "",
                 [&](const Source& source, const std::string& target) {
                   CFeApi window;
-                  LoadWindow(source.path, window);
+                  LoadWindow(source.path, options.files.section, window);
                   for (const Assignment& assignment : options.assignments) {
                     SetDimension(source.path, assignment, window);
                   }
@@ -110,6 +110,7 @@ void AddSet(CLI::App& app, Console& console) {
       ->option_text("FILE... NAME=LENGTH...");
   AddTarget(*command, options->target, kWindowTarget);
   AddFlagsForSeveral(*command, options->files);
+  AddSection(*command, options->files);
   command->footer(
       "Of a negative dimension only the length changes: its sign is the side that it\n"
       "is counted to. Dimensions of one name are set together.\n"

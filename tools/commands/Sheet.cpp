@@ -57,12 +57,12 @@ struct Windows {
   std::vector<drawing::SheetEntry> entries;
 };
 
-void Read(const Source& source, Console& console, Windows& windows) {
+void Read(const Source& source, const std::string& section, Console& console, Windows& windows) {
   auto window = std::make_unique<CFeApi>();
   drawing::SheetEntry entry;
   entry.name = source.name;
   try {
-    LoadWindow(source.path, *window);
+    LoadWindow(source.path, section, *window);
     entry.window = window.get();
     windows.windows.push_back(std::move(window));
   } catch (const CommandError& error) {
@@ -83,7 +83,7 @@ void MakeSheet(const SheetArguments& arguments, Console& console) {
   const drawing::Style style = ToStyle(arguments.common);
   const std::vector<Source> sources = FindWindows(arguments.files);
   Windows windows;
-  for (const Source& source : sources) Read(source, console, windows);
+  for (const Source& source : sources) Read(source, arguments.files.section, console, windows);
   drawing::PictureFormat format{};
   drawing::FormatFromPath(arguments.target, format);
   drawing::Sheet sheet;
@@ -108,6 +108,7 @@ void AddSheet(CLI::App& app, Console& console) {
   const auto arguments = std::make_shared<SheetArguments>();
   CLI::App* command = app.add_subcommand("sheet", "Draw many windows on pages, to scale");
   AddFiles(*command, arguments->files, kWindowFiles);
+  AddSection(*command, arguments->files);
   command
       ->add_option("-o,--output", arguments->target,
                    "File to write: .pdf with all pages, or .svg,\n.png or .dxf; several pages are "

@@ -19,7 +19,7 @@ void Show(const FileArguments& files, Console& console) {
   ReportPrinter printer(sources.size() > 1, console.Out());
   ForEachSource(sources, files.quiet, console, [&](const Source& source) {
     CFeApi window;
-    LoadWindow(source.path, window);
+    LoadWindow(source.path, files.section, window);
     printer.Print(source.path, window);
   });
 }
@@ -30,6 +30,7 @@ void AddShow(CLI::App& app, Console& console) {
   const auto files = std::make_shared<FileArguments>();
   CLI::App* command = app.add_subcommand("show", "Print name, size, frame, sashes and dimensions");
   AddFiles(*command, *files, kWindowFiles);
+  AddSection(*command, *files);
   command->footer(
       "Examples:\n"
       "  lintavo show window.aqz\n"
