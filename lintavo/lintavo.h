@@ -44,3 +44,6 @@
 #include "lintavo/settings/CAcMatList.h"
 #include "lintavo/settings/CAcMatTyp.h"
 #include "lintavo/settings/CMFensterPosition.h"
+#include "lintavo/view/DimensionLine.h"
+#include "lintavo/view/HiddenLines.h"
+#include "lintavo/view/WindowView.h"

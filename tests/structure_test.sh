@@ -20,13 +20,14 @@ height() {
     lintavo/platform/*) echo 0 ;;
     lintavo/resources/*) echo 1 ;;
     lintavo/ini/* | lintavo/geom/*) echo 2 ;;
-    lintavo/model/CMFenster.* | lintavo/model/CMFenster_* | lintavo/model/Achsbereich_intern.h) echo 5 ;;
-    lintavo/model/*) echo 3 ;;
-    lintavo/sash/*) echo 4 ;;
-    lintavo/settings/*) echo 6 ;;
-    lintavo/api/*) echo 7 ;;
-    lintavo/capi/*) echo 8 ;;
-    lintavo/lintavo.h | lintavo/lintavo_c.h) echo 9 ;;
+    lintavo/view/*) echo 3 ;;
+    lintavo/model/CMFenster.* | lintavo/model/CMFenster_* | lintavo/model/Achsbereich_intern.h) echo 6 ;;
+    lintavo/model/*) echo 4 ;;
+    lintavo/sash/*) echo 5 ;;
+    lintavo/settings/*) echo 7 ;;
+    lintavo/api/*) echo 8 ;;
+    lintavo/capi/*) echo 9 ;;
+    lintavo/lintavo.h | lintavo/lintavo_c.h) echo 10 ;;
     *) echo none ;;
   esac
 }

@@ -88,16 +88,6 @@ bool RahmenUndOeffnung(const CMFenster& fenster, const Parameter& param, GEOM2_P
   return rahmen.ParallelPolygon(abstaende.data(), oeffnung, true);
 }
 
-bool LiegtAuf(int a, int b, long i, long k) {
-  return (a == i && b == k) || (a == k && b == i);
-}
-
-// A dimension that can drive the overall size. One between corner points moves
-// corners, whatever axes these belong to.
-bool IstVonAchseZuAchse(const CMZusatzMasz& masz) {
-  return masz.IsEinseitig() && masz.kKnoten1.IsAufAchse() && masz.kKnoten2.IsAufAchse();
-}
-
 }  // namespace
 
 bool CFeApiWandOeffnungsParameter::operator==(const CFeApiWandOeffnungsParameter& other) const {
@@ -118,15 +108,9 @@ int CFeApi::IsZMaszBreiteHoehe(long& h, long& v) const {
   h = -1;
   v = -1;
   if (!pFenster_) return 0;
-  const lintavo::Achsbereich benutzt = lintavo::BenutzteAchsen(*pFenster_);
-  for (long i = 0; i < GetAnzahlZusatzMasze(); ++i) {
-    const CMZusatzMasz& masz = *ZusatzMasz(i);
-    if (!IstVonAchseZuAchse(masz)) continue;
-    const CMKnoten& k1 = masz.kKnoten1;
-    const CMKnoten& k2 = masz.kKnoten2;
-    if (h < 0 && masz.IsHorizonal() && LiegtAuf(k1.J(), k2.J(), benutzt.minJ, benutzt.maxJ)) h = i;
-    if (v < 0 && masz.IsVertikal() && LiegtAuf(k1.K(), k2.K(), benutzt.minK, benutzt.maxK)) v = i;
-  }
+  const lintavo::Gesamtmasze gesamt = lintavo::SucheGesamtmasze(*pFenster_);
+  h = gesamt.breite;
+  v = gesamt.hoehe;
   return h >= 0 && v >= 0 ? 1 : 0;
 }
 

@@ -79,14 +79,14 @@ Kastenbaum BaumDer(const std::vector<Strecke>& strecken) {
 
 }  // namespace
 
-std::vector<CMStrecke> OhneDoppelte(const std::vector<Bildkante>& kanten) {
+std::vector<Bildkante> OhneDoppelte(const std::vector<Bildkante>& kanten) {
   std::vector<Strecke> strecken;
   strecken.reserve(kanten.size());
   for (const Bildkante& kante : kanten) strecken.emplace_back(kante.strecke);
   const Kastenbaum baum = BaumDer(strecken);
   const std::vector<std::size_t> rang = Vorrang(kanten);
 
-  std::vector<CMStrecke> bild;
+  std::vector<Bildkante> bild;
   bild.reserve(kanten.size());
   Abschnitte ohne;
   for (std::size_t i = 0; i < kanten.size(); ++i) {
@@ -101,11 +101,11 @@ std::vector<CMStrecke> OhneDoppelte(const std::vector<Bildkante>& kanten) {
       if (abschnitt.bis > abschnitt.von) ohne.push_back(abschnitt);
     });
     if (ohne.empty()) {
-      bild.push_back(kanten[i].strecke);
+      bild.push_back(kanten[i]);
       continue;
     }
     for (const Abschnitt& rest : Rest(s.laenge, ohne)) {
-      CMStrecke& stueck = bild.emplace_back(kanten[i].strecke);
+      CMStrecke& stueck = bild.emplace_back(kanten[i]).strecke;
       stueck.SetPunkte(rest.von > 0.0 ? Zwischenpunkt(s.a, s.b, rest.von / s.laenge) : s.a,
                        rest.bis < s.laenge ? Zwischenpunkt(s.a, s.b, rest.bis / s.laenge) : s.b);
     }

@@ -1,4 +1,4 @@
-// The range of axes that a window's sashes use.
+// The range of axes that a window's sashes use, and the dimensions that span it.
 #pragma once
 
 #include "lintavo/model/CMFenster.h"
@@ -19,5 +19,15 @@ inline Achsbereich BenutzteAchsen(const CMFenster& fenster) {
   fenster.GetMinMaxAchsIndizes(bereich.minJ, bereich.maxJ, bereich.minK, bereich.maxK);
   return bereich;
 }
+
+/// Indices of the dimensions that drive the overall size, -1 for none: the first one-sided
+/// ones between the outermost axes, both ends on the grid. One between corner points moves
+/// corners, whatever axes these belong to.
+struct Gesamtmasze {
+  long breite = -1;
+  long hoehe = -1;
+};
+
+Gesamtmasze SucheGesamtmasze(const CMFenster& fenster);
 
 }  // namespace lintavo

@@ -4,8 +4,8 @@
 // _Berechnung (the calculation), _Pfosten (mullions and transoms),
 // _Masze (dimensions that drive the grid), _Raster (the grid of a saved window),
 // _Schraegen (slanted edges that follow the grid), _Stich (dimensions that follow springing
-// lines), _Zeichnung (sizes, dimension lines and symbols), _Ansicht (the front view with
-// hidden lines removed).
+// lines), _Zeichnung (sizes, dimension lines and symbols), _View (what the window shows, the
+// front view with hidden lines removed).
 #pragma once
 
 #include <memory>
@@ -27,7 +27,8 @@
 class CIniFile;
 namespace lintavo {
 struct Achsbereich;
-}
+struct WindowView;
+}  // namespace lintavo
 
 /// A parametric window.
 ///
@@ -268,6 +269,9 @@ class LINTAVO_API CMFenster {
 
   // --- drawings --------------------------------------------------------------
 
+  /// What the last calculation has made of the window, as plain values. Throws the kept error
+  /// where that failed.
+  lintavo::WindowView View() const;
   /// The line of dimension `i`, at distance `dAbst` from node 1, from left to
   /// right or upwards. It is as long as the dimension; where its other nodes lie
   /// does not matter. False, with `s` untouched, when there is no such dimension
@@ -344,6 +348,7 @@ class LINTAVO_API CMFenster {
     CMAchsen achsen;
   };
 
+  lintavo::WindowView MakeView() const;
   bool FehlerMerken(CMException&& fehler);
   bool Lies(CIniFile& document);
   bool SaveParameterBlankoFormularToBuffer(CIniFile& document) const;

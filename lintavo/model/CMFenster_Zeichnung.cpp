@@ -1,45 +1,13 @@
 // What a calculated window shows beside its view: its size, its dimension lines
 // with extension lines and arrowheads, and the opening symbols of its sashes.
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
-#include "lintavo/geom/Toleranzen.h"
 #include "lintavo/model/CMFenster.h"
 #include "lintavo/platform/Numbers_intern.h"
+#include "lintavo/view/DimensionLine.h"
 
 namespace {
-
-// A dimension line's own frame: u along it from its start, v to its left.
-struct Linienrahmen {
-  XY start;
-  XY richtung;
-  double laenge;
-};
-
-// False for a line without a direction.
-bool RahmenDer(const CMStrecke& s, Linienrahmen& rahmen) {
-  XY ende;
-  s.GetPunkte(rahmen.start, ende);
-  rahmen.laenge = s.GetLaenge();
-  if (!(rahmen.laenge >= lintavo::kNullLaenge) || !std::isfinite(rahmen.laenge)) return false;
-  rahmen.richtung = {(ende.x - rahmen.start.x) / rahmen.laenge,
-                     (ende.y - rahmen.start.y) / rahmen.laenge};
-  return true;
-}
-
-XY InDieEbene(const Linienrahmen& rahmen, double u, double v) {
-  return {rahmen.start.x + u * rahmen.richtung.x - v * rahmen.richtung.y,
-          rahmen.start.y + u * rahmen.richtung.y + v * rahmen.richtung.x};
-}
-
-void SetzeDreieck(const Linienrahmen& rahmen, double uSpitze, double uFuss, double v,
-                  GEOM2_Polygon& dreieck) {
-  dreieck.Clear();
-  dreieck.AddPunkt(uSpitze, 0.0);
-  dreieck.AddPunkt(uFuss, -v);
-  dreieck.AddPunkt(uFuss, v);
-  dreieck.Transformieren(rahmen.richtung.x, rahmen.richtung.y, rahmen.start.x, rahmen.start.y);
-}
 
 void ErweitereBox(const CMStrecke& s, double box[4]) {
   XY ends[2];
@@ -122,11 +90,15 @@ bool CMFenster::GetMaszHilfsLinien(long i, double d, CMStrecke& l1, CMStrecke& l
 }
 
 bool CMFenster::GetMaszHilfsLinien(const CMStrecke& s, double d, CMStrecke& l1, CMStrecke& l2) {
-  Linienrahmen rahmen;
-  if (!RahmenDer(s, rahmen)) return false;
-  const double h = 0.5 * d;
-  l1.SetPunkte(InDieEbene(rahmen, 0.0, h), InDieEbene(rahmen, 0.0, -h));
-  l2.SetPunkte(InDieEbene(rahmen, rahmen.laenge, h), InDieEbene(rahmen, rahmen.laenge, -h));
+  const auto lines = lintavo::ExtensionLines(s, d);
+  if (!lines) return false;
+  const auto& [first, second] = *lines;
+  XY a;
+  XY b;
+  first.GetPunkte(a, b);
+  l1.SetPunkte(a, b);
+  second.GetPunkte(a, b);
+  l2.SetPunkte(a, b);
   return true;
 }
 
@@ -138,12 +110,10 @@ bool CMFenster::GetMaszBegrenzung(long i, double dPfeilLaenge, double dPfeilBrei
 
 bool CMFenster::GetMaszBegrenzung(const CMStrecke& s, double dPfeilLaenge, double dPfeilBreite,
                                   GEOM2_Polygon& p1, GEOM2_Polygon& p2) {
-  Linienrahmen rahmen;
-  if (!RahmenDer(s, rahmen)) return false;
-  const double h = 0.5 * dPfeilBreite;
-  // Both are counter-clockwise, so the base of the second runs the other way.
-  SetzeDreieck(rahmen, 0.0, dPfeilLaenge, h, p1);
-  SetzeDreieck(rahmen, rahmen.laenge, rahmen.laenge - dPfeilLaenge, -h, p2);
+  auto arrows = lintavo::Arrowheads(s, dPfeilLaenge, dPfeilBreite);
+  if (!arrows) return false;
+  p1 = std::move((*arrows)[0]);
+  p2 = std::move((*arrows)[1]);
   return true;
 }
 
