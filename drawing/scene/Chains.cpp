@@ -39,11 +39,11 @@ class Rows {
   Stretches stretches_;  // where each begins, and its highest taken row; -1 for none
 };
 
-double LengthOf(const Dimension& dimension) {
+double LengthOf(const DrawnDimension& dimension) {
   return dimension.upright ? dimension.to.y - dimension.from.y : dimension.to.x - dimension.from.x;
 }
 
-void MoveTo(double place, Dimension& dimension) {
+void MoveTo(double place, DrawnDimension& dimension) {
   double Point::*const across = dimension.upright ? &Point::x : &Point::y;
   const double shift = place - dimension.from.*across;
   dimension.from.*across += shift;
@@ -54,7 +54,7 @@ void MoveTo(double place, Dimension& dimension) {
 }  // namespace
 
 void ArrangeInRows(const Box& box, const DimensionSizes& sizes,
-                   std::vector<Dimension>& dimensions) {
+                   std::vector<DrawnDimension>& dimensions) {
   std::vector<std::size_t> order(dimensions.size());
   for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
   std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
@@ -63,7 +63,7 @@ void ArrangeInRows(const Box& box, const DimensionSizes& sizes,
   Rows below;
   Rows left;
   for (const std::size_t i : order) {
-    Dimension& dimension = dimensions[i];
+    DrawnDimension& dimension = dimensions[i];
     const bool upright = dimension.upright;
     if (LengthOf(dimension) < 4.0 * kNullLaenge) continue;
     const long row = upright ? left.Take(dimension.from.y, dimension.to.y)

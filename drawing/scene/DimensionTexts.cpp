@@ -74,7 +74,7 @@ class Placer {
   Placer(const DimensionSizes& sizes, const Scene& scene)
       : sizes_(sizes), segments_(SegmentsOf(scene)) {}
 
-  Text Place(const Dimension& dimension) {
+  Text Place(const DrawnDimension& dimension) {
     best_ = {};
     fewest_ = -1;
     const std::vector<Segment> near = SegmentsNear(dimension);
@@ -90,7 +90,7 @@ class Placer {
 
  private:
   // Only what lies within reach of a text has to be looked at again and again.
-  std::vector<Segment> SegmentsNear(const Dimension& dimension) const {
+  std::vector<Segment> SegmentsNear(const DrawnDimension& dimension) const {
     const double reach = 20.0 * sizes_.text;
     const Box box =
         Widened({dimension.from.x, dimension.from.y, dimension.to.x, dimension.to.y}, reach);
@@ -103,7 +103,7 @@ class Placer {
 
   // Stops at the first place that is free; where none is, that with the fewest
   // lines under it is taken.
-  void TryAll(const Dimension& dimension, Text text, const std::vector<Segment>& near) {
+  void TryAll(const DrawnDimension& dimension, Text text, const std::vector<Segment>& near) {
     const double length =
         dimension.upright ? dimension.to.y - dimension.from.y : dimension.to.x - dimension.from.x;
     for (const double standOff : kStandOff) {
@@ -121,7 +121,7 @@ class Placer {
   }
 
   // The places between the ends of the line, from its middle outwards.
-  bool TryAlong(const Dimension& dimension, double length, double standOff, Text& text,
+  bool TryAlong(const DrawnDimension& dimension, double length, double standOff, Text& text,
                 const std::vector<Segment>& near) {
     const double half = HalfLength(text);
     if (2.0 * half > length) return false;
@@ -134,18 +134,18 @@ class Placer {
   }
 
   // Above the line, then below it; left of an upright one, then to its right.
-  bool TryBothSides(const Dimension& dimension, double along, double standOff, Text& text,
+  bool TryBothSides(const DrawnDimension& dimension, double along, double standOff, Text& text,
                     const std::vector<Segment>& near) {
     const double across = sizes_.gap + text.hoehe / 2.0 + standOff;
     return Try(dimension, along, across, text, near) || Try(dimension, along, -across, text, near);
   }
 
-  bool TryOnLine(const Dimension& dimension, double along, Text& text,
+  bool TryOnLine(const DrawnDimension& dimension, double along, Text& text,
                  const std::vector<Segment>& near) {
     return Try(dimension, along, 0.0, text, near);
   }
 
-  bool Try(const Dimension& dimension, double along, double across, Text& text,
+  bool Try(const DrawnDimension& dimension, double along, double across, Text& text,
            const std::vector<Segment>& near) {
     text.mitte = dimension.upright ? Point{dimension.from.x - across, dimension.from.y + along}
                                    : Point{dimension.from.x + along, dimension.from.y + across};
@@ -177,10 +177,10 @@ class Placer {
 
 }  // namespace
 
-void AddDimensionTexts(const std::vector<Dimension>& dimensions, const DimensionSizes& sizes,
+void AddDimensionTexts(const std::vector<DrawnDimension>& dimensions, const DimensionSizes& sizes,
                        Scene& scene) {
   Placer placer(sizes, scene);
-  for (const Dimension& dimension : dimensions) scene.texts.push_back(placer.Place(dimension));
+  for (const DrawnDimension& dimension : dimensions) scene.texts.push_back(placer.Place(dimension));
 }
 
 }  // namespace lintavo::drawing

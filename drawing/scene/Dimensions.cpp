@@ -1,11 +1,12 @@
-// Lines, extension lines and arrowheads of dimensions, from the façade's answers.
+// Lines, extension lines and arrowheads of dimensions.
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
-#include "scene/Ask_intern.h"
+#include "lintavo/view/DimensionLine.h"
+
 #include "scene/Dimensions_intern.h"
-#include "scene/Parts_intern.h"
+#include "scene/Shapes_intern.h"
 
 namespace lintavo::drawing {
 namespace {
@@ -49,12 +50,12 @@ Line LineOf(LineKind kind, long masz, const Point& from, const Point& to) {
 }
 
 // The coordinate across a dimension line.
-double Point::*Across(const Dimension& dimension) {
+double Point::*Across(const DrawnDimension& dimension) {
   return dimension.upright ? &Point::x : &Point::y;
 }
 
 // How much farther out a line beside the window lies when its distance is stretched.
-double ShiftOf(const Dimension& dimension, const Box& box, double factor) {
+double ShiftOf(const DrawnDimension& dimension, const Box& box, double factor) {
   const double place = dimension.from.*Across(dimension);
   const double low = dimension.upright ? box.left : box.bottom;
   const double high = dimension.upright ? box.right : box.top;
@@ -63,7 +64,7 @@ double ShiftOf(const Dimension& dimension, const Box& box, double factor) {
 }
 
 // Draws the end of an extension line that points to the window out to it.
-void ReachToWindow(const Dimension& dimension, const Box& box, double gap, Line& line) {
+void ReachToWindow(const DrawnDimension& dimension, const Box& box, double gap, Line& line) {
   double Point::*const across = Across(dimension);
   const double low = (dimension.upright ? box.left : box.bottom) - gap;
   const double high = (dimension.upright ? box.right : box.top) + gap;
@@ -73,16 +74,20 @@ void ReachToWindow(const Dimension& dimension, const Box& box, double gap, Line&
   if (dimension.from.*across > high) smaller = std::min(smaller, high);
 }
 
-void AddExtensionLines(const CFeApi& window, const Dimension& dimension, const Box& box,
-                       const DimensionSizes& sizes, Scene& scene) {
-  CFeApiStrecken lines;
-  const int found =
-      Ask([&] { return window.GetZMaszHilfslinien(dimension.masz, sizes.overhang, lines); });
-  if (found != 1) return;
-  for (int i = 0; i < lines.lAnzahl; ++i) {
-    Line line = LineOf(LineKind::kHilfsLinie, dimension.masz, {lines.pdX1[i], lines.pdY1[i]},
-                       {lines.pdX2[i], lines.pdY2[i]});
-    line.bauteil = i;
+Point ToPoint(const XY& p) {
+  return {p.x, p.y};
+}
+
+void AddExtensionLines(const DrawnDimension& dimension, const Box& box, const DimensionSizes& sizes,
+                       Scene& scene) {
+  const auto lines = ExtensionLines(dimension.line, sizes.overhang);
+  if (!lines) return;
+  for (std::size_t i = 0; i < lines->size(); ++i) {
+    XY from;
+    XY to;
+    (*lines)[i].GetPunkte(from, to);
+    Line line = LineOf(LineKind::kHilfsLinie, dimension.masz, ToPoint(from), ToPoint(to));
+    line.bauteil = static_cast<long>(i);
     line.from.*Across(dimension) += dimension.shift;
     line.to.*Across(dimension) += dimension.shift;
     ReachToWindow(dimension, box, sizes.gap, line);
@@ -98,15 +103,10 @@ std::vector<Point> TurnedRound(std::vector<Point> arrow) {
   return arrow;
 }
 
-void AddArrows(const CFeApi& window, const Dimension& dimension, const DimensionSizes& sizes,
-               Scene& scene) {
-  CFeApiPolygon arrows[2];
-  const int found = Ask([&] {
-    return window.GetZMaszPfeile(dimension.masz, sizes.arrowLength, sizes.arrowWidth, arrows[0],
-                                 arrows[1]);
-  });
-  if (found != 1) return;
-  for (const CFeApiPolygon& arrow : arrows) {
+void AddArrows(const DrawnDimension& dimension, const DimensionSizes& sizes, Scene& scene) {
+  const auto arrows = Arrowheads(dimension.line, sizes.arrowLength, sizes.arrowWidth);
+  if (!arrows) return;
+  for (const GEOM2_Polygon& arrow : *arrows) {
     std::vector<Point> outline = ToOutline(arrow);
     for (Point& point : outline) point.*Across(dimension) += dimension.shift;
     if (dimension.arrowsOutside) outline = TurnedRound(std::move(outline));
@@ -115,7 +115,7 @@ void AddArrows(const CFeApi& window, const Dimension& dimension, const Dimension
   }
 }
 
-void AddDimensionLine(const Dimension& dimension, const DimensionSizes& sizes, Scene& scene) {
+void AddDimensionLine(const DrawnDimension& dimension, const DimensionSizes& sizes, Scene& scene) {
   Line line = LineOf(LineKind::kMaszLinie, dimension.masz, dimension.from, dimension.to);
   if (dimension.arrowsOutside) {
     double Point::*const along = dimension.upright ? &Point::y : &Point::x;
@@ -126,28 +126,23 @@ void AddDimensionLine(const Dimension& dimension, const DimensionSizes& sizes, S
 }
 
 // A dimension that has a line of some length near the window.
-bool ReadDimension(const CFeApi& window, long masz, const Box& box, const DimensionSizes& sizes,
-                   Dimension& dimension) {
-  CFeApiStrecken lines;
-  CFeApiStrecken extensions;
-  if (Ask([&] { return window.GetZMaszLinie(masz, lines); }) != 1 || lines.lAnzahl != 1) {
-    return false;
-  }
-  // Only a line of some length has them.
-  if (Ask([&] { return window.GetZMaszHilfslinien(masz, sizes.overhang, extensions); }) != 1) {
-    return false;
-  }
-  dimension.masz = masz;
-  dimension.from = {lines.pdX1[0], lines.pdY1[0]};
-  dimension.to = {lines.pdX2[0], lines.pdY2[0]};
-  dimension.upright = dimension.from.x == dimension.to.x;  // exact: one value in both
+bool ReadDimension(const Dimension& measured, const Box& box, const DimensionSizes& sizes,
+                   DrawnDimension& dimension) {
+  // Only a line of some length has extension lines.
+  if (!measured.line || !ExtensionLines(*measured.line, sizes.overhang)) return false;
+  dimension.line = *measured.line;
+  XY from;
+  XY to;
+  dimension.line.GetPunkte(from, to);
+  dimension.from = ToPoint(from);
+  dimension.to = ToPoint(to);
+  dimension.upright = !measured.horizontal;
   dimension.shift = ShiftOf(dimension, box, sizes.lineFactor);
   dimension.from.*Across(dimension) += dimension.shift;
   dimension.to.*Across(dimension) += dimension.shift;
-  const double length =
-      std::hypot(dimension.to.x - dimension.from.x, dimension.to.y - dimension.from.y);
+  const double length = dimension.line.GetLaenge();
   dimension.arrowsOutside = length < kArrowsInside * sizes.arrowLength;
-  dimension.length = std::abs(window.GetZMaszLaenge(masz));
+  dimension.length = std::abs(measured.length);
   const double extent = std::max(box.right - box.left, box.top - box.bottom);
   return LiesNear(box, extent, dimension.from) && LiesNear(box, extent, dimension.to);
 }
@@ -171,19 +166,19 @@ DimensionSizes SizesFor(double extent, const MeasureSizes& wanted, double unit, 
           kRowStepShare * text};
 }
 
-std::vector<Dimension> AddDimensions(const CFeApi& window, const Box& box,
-                                     const DimensionSizes& sizes, bool chains, Scene& scene) {
-  std::vector<Dimension> dimensions;
-  const long count = window.GetAnzahlZusatzMasze();
-  for (long i = 0; i < count; ++i) {
-    Dimension dimension;
-    if (ReadDimension(window, i, box, sizes, dimension)) dimensions.push_back(dimension);
+std::vector<DrawnDimension> AddDimensions(const WindowView& view, const Box& box,
+                                          const DimensionSizes& sizes, bool chains, Scene& scene) {
+  std::vector<DrawnDimension> dimensions;
+  for (std::size_t i = 0; i < view.dimensions.size(); ++i) {
+    DrawnDimension dimension;
+    dimension.masz = static_cast<long>(i);
+    if (ReadDimension(view.dimensions[i], box, sizes, dimension)) dimensions.push_back(dimension);
   }
   if (chains) ArrangeInRows(box, sizes, dimensions);
-  for (const Dimension& dimension : dimensions) {
+  for (const DrawnDimension& dimension : dimensions) {
     AddDimensionLine(dimension, sizes, scene);
-    AddExtensionLines(window, dimension, box, sizes, scene);
-    AddArrows(window, dimension, sizes, scene);
+    AddExtensionLines(dimension, box, sizes, scene);
+    AddArrows(dimension, sizes, scene);
   }
   return dimensions;
 }

@@ -3,14 +3,15 @@
 
 #include <vector>
 
-#include "lintavo/api/CFeApi.h"
 #include "lintavo/drawing/Scene.h"
+#include "lintavo/view/WindowView.h"
 
 namespace lintavo::drawing {
 
 /// A dimension as it is drawn, ready to have its length written beside it.
-struct Dimension {
+struct DrawnDimension {
   long masz = -1;
+  CMStrecke line;        ///< where the file puts it
   bool upright = false;  ///< it measures a height
   Point from;            ///< the ends of what it measures, the left or lower one first
   Point to;
@@ -38,16 +39,17 @@ DimensionSizes SizesFor(double extent, const MeasureSizes& wanted, double unit, 
 
 /// Appends the lines and arrowheads of all dimensions around a window that fills
 /// `box`, in rows if `chains`; returns what has to be written.
-std::vector<Dimension> AddDimensions(const CFeApi& window, const Box& box,
-                                     const DimensionSizes& sizes, bool chains, Scene& scene);
+std::vector<DrawnDimension> AddDimensions(const WindowView& view, const Box& box,
+                                          const DimensionSizes& sizes, bool chains, Scene& scene);
 
 /// Moves the dimensions into rows below and left of the box, each outside of the shorter ones
 /// that it overlaps.
-void ArrangeInRows(const Box& box, const DimensionSizes& sizes, std::vector<Dimension>& dimensions);
+void ArrangeInRows(const Box& box, const DimensionSizes& sizes,
+                   std::vector<DrawnDimension>& dimensions);
 
 /// Writes the lengths, each beside its line where it meets no line, shape's edge
 /// or text of the scene.
-void AddDimensionTexts(const std::vector<Dimension>& dimensions, const DimensionSizes& sizes,
+void AddDimensionTexts(const std::vector<DrawnDimension>& dimensions, const DimensionSizes& sizes,
                        Scene& scene);
 
 }  // namespace lintavo::drawing

@@ -1,4 +1,4 @@
-// Builds the scene of a calculated window from what the façade hands out.
+// Builds the scene of a calculated window from its view.
 #include "lintavo/drawing/Scene.h"
 
 #include <algorithm>
@@ -8,13 +8,12 @@
 
 #include "lintavo/api/CFeApi.h"
 #include "lintavo/drawing/Text.h"
+#include "lintavo/model/CMFenster.h"
 
 #include "paper/Paper_intern.h"
-#include "scene/Ask_intern.h"
 #include "scene/Dimensions_intern.h"
-#include "scene/Layers_intern.h"
 #include "scene/Lettering_intern.h"
-#include "scene/Parts_intern.h"
+#include "scene/Shapes_intern.h"
 #include "scene/Symbols_intern.h"
 
 namespace lintavo::drawing {
@@ -28,20 +27,20 @@ constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 // Every layer's shapes, the farthest layer first, and then the symbols, each cut by
 // the shapes of the layers in front of its own.
-void AddLayers(const CFeApi& window, const SceneOptions& options, Scene& scene) {
-  const std::vector<long> layers = LayersFromBehind(window, options.side);
+void AddLayers(const WindowView& view, const SceneOptions& options, Scene& scene) {
+  const std::vector<int>& order = view.Order(options.side);
   std::vector<std::size_t> ends;
-  for (const long layer : layers) {
-    if (layer == kRahmenEbene) {
-      AddRahmenShapes(window, options.side, scene);
-    } else {
-      AddFluegelShapes(window, layer, options.side, scene);
-    }
+  for (auto layer = order.rbegin(); layer != order.rend(); ++layer) {
+    AddShapes(*layer == kFrameRecord ? FromNearest(view.frame)
+                                     : FromNearest(view.sashes[static_cast<std::size_t>(*layer)]),
+              options.side, scene);
     ends.push_back(scene.shapes.size());
   }
   if (!options.symbols) return;
-  for (std::size_t i = 0; i < layers.size(); ++i) {
-    if (layers[i] != kRahmenEbene) AddSymbol(window, layers[i], options.side, ends[i], scene);
+  auto end = ends.begin();
+  for (auto layer = order.rbegin(); layer != order.rend(); ++layer, ++end) {
+    if (*layer == kFrameRecord) continue;
+    AddSymbol(view.sashes[static_cast<std::size_t>(*layer)], *layer, options.side, *end, scene);
   }
 }
 
@@ -49,17 +48,17 @@ double ExtentOf(const Box& box) {
   return std::max(box.right - box.left, box.top - box.bottom);
 }
 
-void AddMeasures(const CFeApi& window, const Box& box, const SceneOptions& options, double unit,
+void AddMeasures(const WindowView& view, const Box& box, const SceneOptions& options, double unit,
                  Scene& scene) {
   const DimensionSizes sizes = SizesFor(ExtentOf(box), options.sizes, unit, options.millimetre);
-  AddDimensionTexts(AddDimensions(window, box, sizes, options.chains, scene), sizes, scene);
+  AddDimensionTexts(AddDimensions(view, box, sizes, options.chains, scene), sizes, scene);
 }
 
-void AddMeasures(const CFeApi& window, const SceneOptions& options, Scene& scene) {
+void AddMeasures(const WindowView& view, const SceneOptions& options, Scene& scene) {
   Box box;
   if (!GetBox(scene, box)) return;
   if (!options.sizes.pixel) {
-    AddMeasures(window, box, options, 1.0, scene);
+    AddMeasures(view, box, options, 1.0, scene);
     return;
   }
   // How large a pixel is depends on what the dimensions add to the picture, and the
@@ -68,39 +67,24 @@ void AddMeasures(const CFeApi& window, const SceneOptions& options, Scene& scene
   Box whole = box;
   for (int round = 0; round < kPixelRounds; ++round) {
     scene = bare;
-    AddMeasures(window, box, options, ExtentOf(whole) / kPixelsAcross, scene);
+    AddMeasures(view, box, options, ExtentOf(whole) / kPixelsAcross, scene);
     if (!GetBox(scene, whole)) return;
   }
 }
 
-// A text of the façade, each of which is read by one of its members.
-std::string TextOf(const CFeApi& window, long (CFeApi::*member)(long, char (&)[256]) const,
-                   long fluegel) {
-  char text[256];
-  const long length = (window.*member)(fluegel, text);
-  return ToDisplayText(text, length);
+// How a sash opens, in the short texts of the macro file.
+Oeffnung OpeningOf(const Sash& sash) {
+  const auto text = [](CString shortText) { return std::string(shortText.View()); };
+  return {text(CMFensterSatz::GetGangArtKurzText(static_cast<long>(sash.opening.kind))),
+          text(CMFensterSatz::GetAnschlagKurzText(static_cast<long>(sash.opening.hinge))),
+          text(CMFensterSatz::GetOeffSeitenKurzText(static_cast<long>(sash.opening.side)))};
 }
 
-void Describe(const CFeApi& window, Scene& scene) {
-  char name[256];
-  const long length = window.GetFensterBezeichnung(name);
-  scene.name = ToDisplayText(name, length);
-  scene.breite = window.GetFensterBreite();
-  scene.hoehe = window.GetFensterHoehe();
-  for (long i = 0; i < window.GetAnzahlFluegel(); ++i) {
-    scene.fluegel.push_back({TextOf(window, &CFeApi::GetFluegelGangart, i),
-                             TextOf(window, &CFeApi::GetFluegelAnschlag, i),
-                             TextOf(window, &CFeApi::GetFluegelOeffSeite, i)});
-  }
-}
-
-// The opening without reveals is the frame's outline.
-void AddUmriss(const CFeApi& window, Scene& scene) {
-  if (scene.shapes.empty()) return;
-  const CFeApiWandOeffnungsParameter none;
-  CFeApiPolygon outline;
-  if (Ask([&] { return window.GetWandOeffnung(none, outline); }) != 1) return;
-  scene.umriss = ToOutline(outline);
+void Describe(const WindowView& view, Scene& scene) {
+  scene.name = ToDisplayText(view.name);
+  scene.breite = view.width;
+  scene.hoehe = view.height;
+  for (const Sash& sash : view.sashes) scene.fluegel.push_back(OpeningOf(sash));
 }
 
 // Widens a box; false for a point that is no finite one.
@@ -115,19 +99,25 @@ bool Widen(const Point& point, Box& box) {
 
 }  // namespace
 
-Scene BuildScene(const CFeApi& window, const SceneOptions& options) {
+Scene BuildScene(const WindowView& view, const SceneOptions& options) {
   Scene scene;
   scene.side = options.side;
-  Describe(window, scene);
-  AddLayers(window, options, scene);
-  AddUmriss(window, scene);
+  Describe(view, scene);
+  AddLayers(view, options, scene);
+  if (!scene.shapes.empty()) scene.umriss = ToOutline(view.outer);
   if (options.hiddenLine) {
-    AddView(window, options.side, scene);
+    AddVisibleEdges(view, options.side, scene);
     scene.shapes.clear();
   }
-  AddFittings(window, options.side, scene);
-  if (options.dimensions) AddMeasures(window, options, scene);
+  AddFittings(view, options.side, scene);
+  if (options.dimensions) AddMeasures(view, options, scene);
   return scene;
+}
+
+Scene BuildScene(const CFeApi& window, const SceneOptions& options) {
+  const CMFenster* const fenster = window.GetFensterPtr();
+  if (!fenster || fenster->GetFehler() != 0) return BuildScene(WindowView(), options);
+  return BuildScene(fenster->View(), options);
 }
 
 Box GetBox(const Text& text) {

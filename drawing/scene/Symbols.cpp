@@ -1,25 +1,15 @@
-// Opening symbols, fittings and visible edges from the segments that the façade
-// hands out.
+// Opening symbols, fittings and visible edges.
 #include <algorithm>
-#include <string_view>
+#include <vector>
 
 #include "lintavo/geom/KanteClippen.h"
+#include "lintavo/view/HiddenLines.h"
 
-#include "scene/Ask_intern.h"
-#include "scene/EdgeOrigin_intern.h"
-#include "scene/Layers_intern.h"
+#include "scene/Shapes_intern.h"
 #include "scene/Symbols_intern.h"
 
 namespace lintavo::drawing {
 namespace {
-
-std::vector<CMStrecke> ToStrecken(const CFeApiStrecken& record) {
-  std::vector<CMStrecke> strecken;
-  for (int i = 0; i < record.lAnzahl; ++i) {
-    strecken.emplace_back(record.pdX1[i], record.pdY1[i], record.pdX2[i], record.pdY2[i]);
-  }
-  return strecken;
-}
 
 void AddLine(const CMStrecke& strecke, const Line& kind, Scene& scene) {
   XY from;
@@ -73,52 +63,53 @@ std::vector<GEOM2_Polygon> CoversOf(const std::vector<CMStrecke>& strecken,
 
 // Whether the lines of a sash look the same from both sides: it is fixed or slides
 // in its own plane.
-bool StaysInItsPlane(const CFeApi& window, long fluegel) {
-  char text[256];
-  const long length = window.GetFluegelGangart(fluegel, text);
-  const std::string_view gangart(text, static_cast<std::size_t>(std::clamp(length, 0L, 256L)));
-  return gangart == "Fe" || gangart == "Sc" || gangart == "HS";
+bool StaysInItsPlane(const Sash& sash) {
+  const OpeningKind kind = sash.opening.kind;
+  return kind == OpeningKind::kFixed || kind == OpeningKind::kSlide ||
+         kind == OpeningKind::kLiftSlide;
 }
 
 }  // namespace
 
-void AddSymbol(const CFeApi& window, long fluegel, ViewSide side, std::size_t firstInFront,
+void AddSymbol(const Sash& sash, long fluegel, ViewSide side, std::size_t firstInFront,
                Scene& scene) {
-  CFeApiStrecken record;
-  if (Ask([&] { return window.GetFluegelOeffnungsSymbol(fluegel, record); }) != 1) return;
   Line kind;
   kind.kind = LineKind::kOeffnungsSymbol;
   kind.fluegel = fluegel;
-  kind.dashed = !OpensTowards(window, fluegel, side) && !StaysInItsPlane(window, fluegel);
-  kind.attribut = OpensTowards(window, fluegel, ViewSide::kOutside) ? 2 : 1;
-  const std::vector<CMStrecke> whole = ToStrecken(record);
-  const std::vector<GEOM2_Polygon> covers = CoversOf(whole, firstInFront, scene);
+  kind.dashed = !OpensTowards(sash, side) && !StaysInItsPlane(sash);
+  kind.attribut = OpensTowards(sash, ViewSide::kOutside) ? 2 : 1;
+  const std::vector<GEOM2_Polygon> covers = CoversOf(sash.symbol, firstInFront, scene);
   std::vector<CMStrecke> visible;
-  for (const CMStrecke& strecke : whole) ClippKanteAnPolys(strecke, covers, visible, false);
+  for (const CMStrecke& strecke : sash.symbol) ClippKanteAnPolys(strecke, covers, visible, false);
   for (const CMStrecke& strecke : visible) AddLine(strecke, kind, scene);
 }
 
-void AddFittings(const CFeApi& window, ViewSide side, Scene& scene) {
-  for (long i = 0; i < window.GetAnzahlFluegel(); ++i) {
-    if (side == ViewSide::kOutside && !OpensTowards(window, i, side)) continue;
+void AddFittings(const WindowView& view, ViewSide side, Scene& scene) {
+  for (std::size_t i = 0; i < view.sashes.size(); ++i) {
+    const Sash& sash = view.sashes[i];
+    if (side == ViewSide::kOutside && !OpensTowards(sash, side)) continue;
     Line kind;
     kind.kind = LineKind::kBeschlag;
-    kind.fluegel = i;
-    for (long j = 0; j < window.GetAnzahlBeschlaege(i); ++j) {
-      CFeApiStrecken record;
-      if (Ask([&] { return window.GetBeschlagZeichnung(i, j, record); }) != 1) continue;
-      kind.bauteil = j;
-      for (const CMStrecke& strecke : ToStrecken(record)) AddLine(strecke, kind, scene);
+    kind.fluegel = static_cast<long>(i);
+    for (std::size_t j = 0; j < sash.fittings.size(); ++j) {
+      kind.bauteil = static_cast<long>(j);
+      for (const CMStrecke& strecke : sash.fittings[j].lines) AddLine(strecke, kind, scene);
     }
   }
 }
 
-void AddView(const CFeApi& window, ViewSide side, Scene& scene) {
-  CFeApiStrecken record;
-  const int fromOutside = side == ViewSide::kOutside ? 1 : 0;
-  if (Ask([&] { return window.GetAnsicht(fromOutside, record); }) != 1) return;
-  for (const CMStrecke& strecke : ToStrecken(record)) AddLine(strecke, Line(), scene);
-  TraceBack(scene);
+void AddVisibleEdges(const WindowView& view, ViewSide side, Scene& scene) {
+  std::vector<VisibleEdge> edges;
+  FindVisibleEdges(view, side, edges);
+  for (const VisibleEdge& edge : edges) {
+    Line& line = scene.lines.emplace_back();
+    line.from = {edge.from.x, edge.from.y};
+    line.to = {edge.to.x, edge.to.y};
+    line.fluegel = edge.piece->sash;
+    line.bauteil = NumberOf(*edge.piece);
+    line.teil = KindOf(*edge.piece);
+    line.seite = edge.side;
+  }
 }
 
 }  // namespace lintavo::drawing

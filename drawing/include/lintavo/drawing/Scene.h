@@ -10,10 +10,13 @@
 #include "lintavo/drawing/Export.h"
 #include "lintavo/drawing/Ids.h"
 #include "lintavo/drawing/Style.h"
+#include "lintavo/view/WindowView.h"
 
 class CFeApi;
 
 namespace lintavo::drawing {
+
+using lintavo::ViewSide;
 
 /// A point in the window's own units; x runs to the right, y upwards.
 struct Point {
@@ -58,9 +61,6 @@ struct Text {
   std::string inhalt;    ///< ASCII, with "." as the decimal mark
   long attribut = 0;     ///< number of its colour
 };
-
-/// From where a window is seen. Neither view is mirrored: x grows to the right.
-enum class ViewSide { kInside, kOutside };
 
 /// How a sash opens, in the short texts of the macro file.
 struct Oeffnung {
@@ -129,6 +129,8 @@ struct SceneOptions {
 ///
 /// Parts that have no outline are left out; a window that was never calculated
 /// gives an empty scene.
+LINTAVO_DRAWING_API Scene BuildScene(const WindowView& view, const SceneOptions& options = {});
+/// The same of a façade's window, empty where its calculation failed.
 LINTAVO_DRAWING_API Scene BuildScene(const CFeApi& window, const SceneOptions& options = {});
 
 /// The box that a text fills, reckoned with the widths of a common sans-serif font. A host
