@@ -12,6 +12,7 @@
 
 #include "PartsList.h"
 #include "PartsText.h"
+#include "WindowParts.h"
 
 namespace lintavo::tools {
 namespace {
@@ -26,15 +27,19 @@ CFeApi Example(const std::string& name) {
 
 PartsList ListOf(const std::vector<std::string>& names, const PartsOptions& options = {}) {
   PartsCollector collector(options);
-  for (const std::string& name : names) collector.Add(Example(name));
+  for (const std::string& name : names) collector.Add(ViewOf(Example(name)));
   return collector.Sorted();
 }
 
-CMBauteil Bar(long lage, double breite, double laenge, double anfang, double ende) {
-  CMBauteil bar;
-  bar.lLage = lage;
-  bar.dBreite = breite;
-  bar.Achse(0) = {{3.0, -4.0}, laenge, 30.0, anfang, ende};
+// Where a section lies beside its axis.
+enum Place { kLeft, kCentred, kRight };
+
+Piece Bar(PieceKind kind, Place place, double width, double length, double start, double end) {
+  Piece bar;
+  bar.kind = kind;
+  bar.axes = {{{3.0, -4.0}, length, 30.0, start, end}};
+  bar.left = place == kLeft ? width : place == kCentred ? width / 2 : 0.0;
+  bar.right = bar.left - width;
   return bar;
 }
 
@@ -42,20 +47,20 @@ TEST(Parts, TheBlankReachesFromTipToTip) {
   const double slope = std::atan(0.5) * kGradJeRadiant;
   const struct {
     const char* what;
-    long lage;
+    Place lage;
     double breite, laenge, anfang, ende, blank;
   } kCases[] = {
-      {"mitred frame part, axis on its longer edge", eLageLinks, 10, 100, 45, -45, 100},
-      {"frame part at an inward corner of the window", eLageLinks, 7, 80, 0, 45, 87},
-      {"frame part between two inward corners", eLageLinks, 7, 80, -45, 45, 94},
-      {"mullion up to a slope of 1 : 2", eLageMitte, 8, 100, 0, slope, 102},
-      {"parallelogram", eLageMitte, 8, 100, 45, 45, 108},
-      {"mitred trim, axis in its middle", eLageMitte, 5, 85, 45, -45, 90},
-      {"square", eLageRechts, 5, 85, 0, 0, 85},
+      {"mitred frame part, axis on its longer edge", kLeft, 10, 100, 45, -45, 100},
+      {"frame part at an inward corner of the window", kLeft, 7, 80, 0, 45, 87},
+      {"frame part between two inward corners", kLeft, 7, 80, -45, 45, 94},
+      {"mullion up to a slope of 1 : 2", kCentred, 8, 100, 0, slope, 102},
+      {"parallelogram", kCentred, 8, 100, 45, 45, 108},
+      {"mitred trim, axis in its middle", kCentred, 5, 85, 45, -45, 90},
+      {"square", kRight, 5, 85, 0, 0, 85},
   };
   for (const auto& c : kCases) {
     const Stab stab =
-        MesseStab(TeilArt::kRahmen, Bar(c.lage, c.breite, c.laenge, c.anfang, c.ende));
+        MesseStab(Bar(PieceKind::kFramePart, c.lage, c.breite, c.laenge, c.anfang, c.ende));
     EXPECT_NEAR(stab.laenge, c.blank, 1e-9) << c.what;
     EXPECT_NEAR(stab.breite, c.breite, 1e-9) << c.what;
     EXPECT_EQ(stab.achslaenge, c.laenge) << c.what;
@@ -67,11 +72,9 @@ TEST(Parts, TheBlankReachesFromTipToTip) {
 
 // A quarter of a ring in six chords, its axis on the circle of radius 50; `stretch` makes
 // it a part of an ellipse.
-CMBauteil QuarterRing(double stretch) {
-  CMBauteil ring;
-  ring.lLage = eLageLinks;
-  ring.dBreite = 7.0;
-  ring.DeleteAchsen();
+Piece QuarterRing(double stretch) {
+  Piece ring;
+  ring.left = 7.0;
   const auto corner = [=](int i) {
     const double angle = i * 15.0 * kRadiantJeGrad;
     return XY{50.0 * stretch * std::cos(angle), 50.0 * std::sin(angle)};
@@ -81,20 +84,20 @@ CMBauteil QuarterRing(double stretch) {
     GEOM2_Polygon::SetAchse(corner(i), corner(i + 1), axis);
     axis.dWinkelAnfang = 7.5;
     axis.dWinkelEnde = -7.5;
-    ring.AddAchse(axis);
+    ring.axes.push_back(axis);
   }
   return ring;
 }
 
 TEST(Parts, BentPartsAreDeveloped) {
-  const Stab ring = MesseStab(TeilArt::kRahmen, QuarterRing(1.0));
+  const Stab ring = MesseStab(QuarterRing(1.0));
   EXPECT_NEAR(ring.radius, 50.0, 1e-9);
   EXPECT_NEAR(ring.laenge, 25.0 * kPi, 1e-9);
   EXPECT_NEAR(ring.achslaenge, 6 * 2 * 50.0 * std::sin(7.5 * kRadiantJeGrad), 1e-9);
   EXPECT_EQ(ring.segmente, 6);
   EXPECT_NEAR(ring.breite, 7.0, 1e-9);
 
-  const Stab oval = MesseStab(TeilArt::kRahmen, QuarterRing(1.2));
+  const Stab oval = MesseStab(QuarterRing(1.2));
   EXPECT_EQ(oval.radius, 0.0);
   EXPECT_NEAR(oval.laenge, oval.achslaenge, 1e-9);
 }
@@ -102,24 +105,24 @@ TEST(Parts, BentPartsAreDeveloped) {
 TEST(Parts, MirrorImagesAreOtherPieces) {
   const struct {
     const char* what;
-    TeilArt art;
-    long lage;
+    PieceKind art;
+    Place lage;
     double anfang, ende, anfang2, ende2;
     bool same;
   } kCases[] = {
-      {"left and right jamb", TeilArt::kRahmen, eLageLinks, 45, -45, 45, -45, true},
-      {"within the tolerance", TeilArt::kRahmen, eLageLinks, 45, -45, 45.005, -45, true},
-      {"beyond it", TeilArt::kRahmen, eLageLinks, 45, -45, 45.02, -45, false},
-      {"mirrored jambs", TeilArt::kRahmen, eLageLinks, 45, -30, 30, -45, false},
-      {"frame part turned round", TeilArt::kRahmen, eLageLinks, 0, 45, 45, 0, false},
-      {"mullion turned round", TeilArt::kPfosten, eLageMitte, 0, 20, 20, 0, true},
-      {"mullion mirrored", TeilArt::kPfosten, eLageMitte, 0, 20, 0, -20, false},
-      {"mullion beside its axis", TeilArt::kPfosten, eLageLinks, 0, 20, 20, 0, false},
-      {"trim turned round", TeilArt::kZusatzAussen, eLageMitte, 0, 20, 20, 0, false},
+      {"left and right jamb", PieceKind::kFramePart, kLeft, 45, -45, 45, -45, true},
+      {"within the tolerance", PieceKind::kFramePart, kLeft, 45, -45, 45.005, -45, true},
+      {"beyond it", PieceKind::kFramePart, kLeft, 45, -45, 45.02, -45, false},
+      {"mirrored jambs", PieceKind::kFramePart, kLeft, 45, -30, 30, -45, false},
+      {"frame part turned round", PieceKind::kFramePart, kLeft, 0, 45, 45, 0, false},
+      {"mullion turned round", PieceKind::kMullion, kCentred, 0, 20, 20, 0, true},
+      {"mullion mirrored", PieceKind::kMullion, kCentred, 0, 20, 0, -20, false},
+      {"mullion beside its axis", PieceKind::kMullion, kLeft, 0, 20, 20, 0, false},
+      {"trim turned round", PieceKind::kOuterPart, kCentred, 0, 20, 20, 0, false},
   };
   for (const auto& c : kCases) {
-    const Stab a = MesseStab(c.art, Bar(c.lage, 7, 100, c.anfang, c.ende));
-    Stab b = MesseStab(c.art, Bar(c.lage, 7, 100, c.anfang2, c.ende2));
+    const Stab a = MesseStab(Bar(c.art, c.lage, 7, 100, c.anfang, c.ende));
+    Stab b = MesseStab(Bar(c.art, c.lage, 7, 100, c.anfang2, c.ende2));
     b.laenge = a.laenge;
     EXPECT_EQ(SchneidetGleich(a, b), c.same) << c.what;
     EXPECT_EQ(SchneidetGleich(b, a), c.same) << c.what;
@@ -253,7 +256,7 @@ TEST(Parts, EveryPieceOfEveryExampleIsCountedOnce) {
       pieces += window.GetAnzahlBeschlaege(i);
     }
     PartsCollector collector({});
-    collector.Add(window);
+    collector.Add(ViewOf(window));
     EXPECT_EQ(Pieces(collector.Sorted()), pieces) << entry.path();
   }
 }

@@ -25,14 +25,6 @@ Json JsonPoint(double x, double y) {
   return Json::array({JsonNumber(x), JsonNumber(y)});
 }
 
-Json JsonPolygon(const CFeApiPolygon& polygon) {
-  Json points = Json::array();
-  for (int i = 0; i < polygon.lAnzahl; ++i) {
-    points.push_back(JsonPoint(polygon.pdX[i], polygon.pdY[i]));
-  }
-  return points;
-}
-
 Json JsonPolygon(const GEOM2_Polygon& polygon) {
   Json points = Json::array();
   for (int i = 0; i < polygon.GetAnzahl(); ++i) {

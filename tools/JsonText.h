@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "lintavo/api/CFeApiPolygon.h"
 #include "lintavo/geom/GEOM2_Polygon.h"
 
 namespace lintavo::tools {
@@ -21,7 +20,6 @@ Json JsonNumber(double value);
 Json JsonPoint(double x, double y);
 
 /// The points of a polygon, [[x, y], …].
-Json JsonPolygon(const CFeApiPolygon& polygon);
 Json JsonPolygon(const GEOM2_Polygon& polygon);
 
 /// Writes one document piece by piece, so that a large one never stands in memory.

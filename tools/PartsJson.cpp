@@ -21,7 +21,7 @@ Json Places(const std::vector<Stelle>& stellen) {
   for (const Stelle& stelle : stellen) {
     Json place;
     place["window"] = stelle.fenster;
-    place["sash"] = stelle.fluegel == kRahmensatz ? Json(nullptr) : Json(stelle.fluegel);
+    place["sash"] = stelle.fluegel == kFrameRecord ? Json(nullptr) : Json(stelle.fluegel);
     place["id"] = stelle.id;
     places.push_back(std::move(place));
   }

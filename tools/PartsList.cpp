@@ -59,47 +59,45 @@ void PartsCollector::Einreihen(Zeile zeile, double masz, Stelle stelle, Fundstel
   zeilen.push_back(std::move(zeile));
 }
 
-void PartsCollector::AddStaebe(const std::vector<Komponente>& komponenten) {
-  for (const Komponente& komponente : komponenten) {
-    Stab stab = MesseStab(komponente.art, *komponente.bauteil);
+void PartsCollector::AddStaebe(const std::vector<Piece>& pieces) {
+  for (const Piece& piece : pieces) {
+    Stab stab = MesseStab(piece);
     const double laenge = stab.laenge;
-    Einreihen(std::move(stab), laenge, {fenster_, komponente.fluegel, komponente.Id()}, staebe_,
-              list_.staebe);
+    Einreihen(std::move(stab), laenge, {fenster_, piece.sash, IdVon(piece)}, staebe_, list_.staebe);
   }
 }
 
-void PartsCollector::Add(const CFeApi& window) {
-  if (const CMFensterSatz* rahmen = SatzVon(window, kRahmensatz)) {
-    AddStaebe(Rahmenteile(*rahmen, kRahmensatz));
-    AddStaebe(Einzelteile(*rahmen, kRahmensatz));
+void PartsCollector::Add(const WindowView& view) {
+  AddStaebe(view.frame.parts);
+  AddStaebe(view.frame.singles);
+  for (std::size_t i = 0; i < view.sashes.size(); ++i) {
+    AddFluegel(view.sashes[i], static_cast<long>(i));
   }
-  for (long i = 0; i < window.GetAnzahlFluegel(); ++i) AddFluegel(window, *SatzVon(window, i), i);
   ++fenster_;
 }
 
-void PartsCollector::AddFluegel(const CFeApi& window, const CMFensterSatz& satz, long fluegel) {
-  AddStaebe(Rahmenteile(satz, fluegel));
-  AddStaebe(Einzelteile(satz, fluegel));
-  AddStaebe(Sprossen(satz, fluegel));
-  AddStaebe(Lamellen(LegeLamellen(window, fluegel), fluegel));
-  if (!satz.Fuellung.IsLamellen()) AddScheibe(window, fluegel);
-  AddBeschlaege(satz, fluegel);
+void PartsCollector::AddFluegel(const Sash& sash, long fluegel) {
+  for (const auto* pieces : {&sash.parts, &sash.singles, &sash.bars, &sash.filling.slats}) {
+    AddStaebe(*pieces);
+  }
+  const bool isPane = sash.filling.kind != FillingKind::kSlats;
+  if (isPane && sash.filling.pane) AddScheibe(sash, *sash.filling.pane);
+  AddBeschlaege(sash, fluegel);
 }
 
-void PartsCollector::AddScheibe(const CFeApi& window, long fluegel) {
-  CFeApiPolygon umriss;
-  if (window.GetFluegelInnenPolygon(fluegel, options_.falz, umriss) != 1) return;
-  Scheibe scheibe =
-      MesseScheibe(FuellungArt(window, fluegel), window.GetFluegelFuellungDicke(fluegel), umriss);
+void PartsCollector::AddScheibe(const Sash& sash, const Piece& pane) {
+  GEOM2_Polygon umriss = options_.falz == 0.0 ? sash.inner : GEOM2_Polygon();
+  if (options_.falz != 0.0) sash.inner.ParallelPolygon(options_.falz, umriss);
+  if (umriss.GetAnzahl() < 3) return;
+  Scheibe scheibe = MesseScheibe(ArtVon(pane), sash.filling.thickness, umriss);
   const double breite = scheibe.breite;
-  Einreihen(std::move(scheibe), breite,
-            {fenster_, fluegel, drawing::IdOf(drawing::ShapeKind::kGlas, fluegel, 0)}, scheiben_,
+  Einreihen(std::move(scheibe), breite, {fenster_, pane.sash, IdVon(pane)}, scheiben_,
             list_.scheiben);
 }
 
-void PartsCollector::AddBeschlaege(const CMFensterSatz& satz, long fluegel) {
-  for (long j = 0; j < satz.lGetAnzahlBeschlaege(); ++j) {
-    const TeilArt art = BeschlagArt(satz.GetBeschlagPtr(j)->eTyp);
+void PartsCollector::AddBeschlaege(const Sash& sash, long fluegel) {
+  for (std::size_t j = 0; j < sash.fittings.size(); ++j) {
+    const TeilArt art = ArtVon(sash.fittings[j]);
     auto zeile = std::find_if(
         list_.beschlaege.begin(), list_.beschlaege.end(), [&](const Beschlaege& beschlaege) {
           const bool apart = options_.jeFenster && beschlaege.stellen.front().fenster != fenster_;
@@ -108,7 +106,8 @@ void PartsCollector::AddBeschlaege(const CMFensterSatz& satz, long fluegel) {
     if (zeile == list_.beschlaege.end()) {
       zeile = list_.beschlaege.insert(zeile, {art, {}});
     }
-    zeile->stellen.push_back({fenster_, fluegel, drawing::BeschlagId(fluegel, j)});
+    zeile->stellen.push_back(
+        {fenster_, fluegel, drawing::BeschlagId(fluegel, static_cast<long>(j))});
   }
 }
 

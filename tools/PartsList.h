@@ -8,10 +8,9 @@
 #include <tuple>
 #include <vector>
 
-#include "lintavo/api/CFeApi.h"
 #include "lintavo/geom/GEOM2_Polygon.h"
 #include "lintavo/geom/XY.h"
-#include "lintavo/model/CMBauteil.h"
+#include "lintavo/view/WindowView.h"
 
 #include "WindowParts.h"
 
@@ -24,9 +23,9 @@ inline constexpr double kGleicherSchnitt = 0.01;
 
 /// Where a piece goes.
 struct Stelle {
-  std::size_t fenster = 0;     ///< index of the window, in the order of adding
-  long fluegel = kRahmensatz;  ///< index of the sash
-  std::string id{};            ///< as in pictures, see `lintavo/drawing/Ids.h`
+  std::size_t fenster = 0;      ///< index of the window, in the order of adding
+  long fluegel = kFrameRecord;  ///< index of the sash
+  std::string id{};             ///< as in pictures, see `lintavo/drawing/Ids.h`
 };
 
 /// Bars that the saw cuts alike.
@@ -93,11 +92,11 @@ struct PartsOptions {
   bool jeFenster = false;  ///< nothing is added up over several windows
 };
 
-/// Measures a component that is there; places are left empty.
-Stab MesseStab(TeilArt art, const CMBauteil& bauteil);
+/// Measures a piece; places are left empty.
+Stab MesseStab(const Piece& piece);
 
 /// Measures the outline of a pane; places are left empty.
-Scheibe MesseScheibe(TeilArt art, double dicke, const CFeApiPolygon& umriss);
+Scheibe MesseScheibe(TeilArt art, double dicke, const GEOM2_Polygon& umriss);
 
 /// Whether one cut fits both. A mirror image is another piece, since sections have an
 /// inside and an outside; a piece turned by half a turn is the same one where its section
@@ -112,14 +111,14 @@ void Skaliere(double faktor, PartsList& list);
 
 /// Collects the pieces of windows, each as often as it is added.
 ///
-/// Every component that the façade counts is one bar, every slat too; a sash that is not
-/// filled with slats and has an inner outline has one pane or panel.
+/// Every piece with an axis is one bar; a sash that is not filled with slats and has an
+/// inner outline has one pane or panel.
 class PartsCollector {
  public:
   explicit PartsCollector(const PartsOptions& options) : options_(options) {}
 
   /// Adds a calculated window.
-  void Add(const CFeApi& window);
+  void Add(const WindowView& view);
 
   /// The list so far as the saw takes it: by kind (by window before that where windows are
   /// kept apart), wide and thick sections first, of these the longest first.
@@ -133,10 +132,10 @@ class PartsCollector {
   template <class Zeile>
   void Einreihen(Zeile zeile, double masz, Stelle stelle, Fundstellen& fundstellen,
                  std::vector<Zeile>& zeilen);
-  void AddStaebe(const std::vector<Komponente>& komponenten);
-  void AddFluegel(const CFeApi& window, const CMFensterSatz& satz, long fluegel);
-  void AddScheibe(const CFeApi& window, long fluegel);
-  void AddBeschlaege(const CMFensterSatz& satz, long fluegel);
+  void AddStaebe(const std::vector<Piece>& pieces);
+  void AddFluegel(const Sash& sash, long fluegel);
+  void AddScheibe(const Sash& sash, const Piece& pane);
+  void AddBeschlaege(const Sash& sash, long fluegel);
 
   PartsOptions options_;
   std::size_t fenster_ = 0;

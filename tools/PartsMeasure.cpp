@@ -21,10 +21,10 @@ double Abstand(const XY& a, const XY& b) {
   return std::hypot(b.x - a.x, b.y - a.y);
 }
 
-bool IsMittig(TeilArt art, const CMBauteil& bauteil) {
-  if (bauteil.lLage == eLageRechts || bauteil.lLage == eLageLinks) return false;
-  return art == TeilArt::kPfosten || art == TeilArt::kRiegel || art == TeilArt::kSprosse ||
-         art == TeilArt::kLamelle;
+bool IsMittig(const Piece& piece) {
+  if (!piece.IsCentred()) return false;
+  return piece.kind == PieceKind::kMullion || piece.kind == PieceKind::kTransom ||
+         piece.kind == PieceKind::kBar || piece.kind == PieceKind::kSlat;
 }
 
 // One straight segment, seen along its axis: the lengths of its two long edges, and how
@@ -35,10 +35,9 @@ struct Segmentmasze {
   double laengs = 0.0;
 };
 
-Segmentmasze MesseSegment(const CMBauteil& bauteil, long i) {
-  GEOM2_Polygon umriss;
-  bauteil.GetUmrissPunkteAchsSegment(i, umriss);
-  const double winkel = bauteil.Achse(i).dWinkel * kRadiantJeGrad;
+Segmentmasze MesseSegment(const Piece& piece, std::size_t i) {
+  GEOM2_Polygon umriss = SegmentOutline(piece, i);
+  const double winkel = piece.axes[i].dWinkel * kRadiantJeGrad;
   // Right start, right end, left end, left start; a mitre that ends before the left side
   // puts a corner more before the left end.
   umriss.Transformieren(std::cos(winkel), -std::sin(winkel), 0.0, 0.0);
@@ -46,18 +45,9 @@ Segmentmasze MesseSegment(const CMBauteil& bauteil, long i) {
   XY min;
   XY max;
   umriss.GetMinMax(min, max);
-  const GEOM2_Achse& achse = bauteil.Achse(i);
+  const GEOM2_Achse& achse = piece.axes[i];
   const int linksEnde = achse.bLinkeSeite && achse.dTiefeEnde != 0.0 ? 3 : 2;
   return {x(1) - x(0), x(linksEnde) - x(linksEnde + 1), max.x - min.x};
-}
-
-std::vector<XY> Achsecken(const CMBauteil& bauteil) {
-  std::vector<XY> ecken;
-  XY a;
-  XY b;
-  for (long i = 0; bauteil.GetAchspunkte(i, a, b); ++i) ecken.push_back(a);
-  ecken.push_back(b);
-  return ecken;
 }
 
 // The centre of the circle through three points; false where they lie on a line.
@@ -97,38 +87,38 @@ double Kreisradius(const std::vector<XY>& ecken) {
 }
 
 // By how much the arc is longer than its chords.
-double BogenJeSehne(const CMBauteil& bauteil, double radius) {
+double BogenJeSehne(const Piece& piece, double radius) {
   double bogen = 0.0;
-  for (const GEOM2_Achse& achse : bauteil.Achsen) {
+  for (const GEOM2_Achse& achse : piece.axes) {
     bogen += 2.0 * radius * std::asin(std::min(1.0, achse.dLaenge / (2.0 * radius)));
   }
-  return bogen / bauteil.GetAchsLaenge();
+  return bogen / piece.AxisLength();
 }
 
-std::vector<double> Verlauf(const CMBauteil& bauteil) {
+std::vector<double> Verlauf(const Piece& piece) {
   std::vector<double> verlauf;
-  for (long i = 0; i < bauteil.lGetAnzAchsen(); ++i) {
+  for (std::size_t i = 0; i < piece.axes.size(); ++i) {
     if (i > 0) {
-      const double knick = bauteil.Achse(i).dWinkel - bauteil.Achse(i - 1).dWinkel;
+      const double knick = piece.axes[i].dWinkel - piece.axes[i - 1].dWinkel;
       verlauf.push_back(std::remainder(knick, 360.0));
     }
-    verlauf.push_back(bauteil.Achse(i).dLaenge);
+    verlauf.push_back(piece.axes[i].dLaenge);
   }
   return verlauf;
 }
 
-void MesseGebogenen(const CMBauteil& bauteil, Stab& stab) {
+void MesseGebogenen(const Piece& piece, Stab& stab) {
   double rechts = 0.0;
   double links = 0.0;
-  for (long i = 0; i < bauteil.lGetAnzAchsen(); ++i) {
-    const Segmentmasze segment = MesseSegment(bauteil, i);
+  for (std::size_t i = 0; i < piece.axes.size(); ++i) {
+    const Segmentmasze segment = MesseSegment(piece, i);
     rechts += segment.rechts;
     links += segment.links;
   }
   stab.laenge = std::max(rechts, links);
-  stab.radius = Kreisradius(Achsecken(bauteil));
-  if (stab.radius > 0.0) stab.laenge *= BogenJeSehne(bauteil, stab.radius);
-  stab.verlauf = Verlauf(bauteil);
+  stab.radius = Kreisradius(AxisCorners(piece));
+  if (stab.radius > 0.0) stab.laenge *= BogenJeSehne(piece, stab.radius);
+  stab.verlauf = Verlauf(piece);
 }
 
 bool VerlaufGleich(const std::vector<double>& a, const std::vector<double>& b) {
@@ -156,36 +146,34 @@ bool UmrissGleich(const std::vector<XY>& a, const std::vector<XY>& b) {
 
 }  // namespace
 
-Stab MesseStab(TeilArt art, const CMBauteil& bauteil) {
+Stab MesseStab(const Piece& piece) {
   Stab stab;
-  stab.art = art;
-  stab.dicke = bauteil.dDicke;
-  stab.segmente = bauteil.lGetAnzAchsen();
-  if (stab.segmente == 0) return stab;
-  stab.laenge = MesseSegment(bauteil, 0).laengs;
-  stab.breite = std::fabs(bauteil.dBreite + bauteil.dUeberBreite);
-  stab.achslaenge = bauteil.GetAchsLaenge();
-  stab.winkelAnfang = bauteil.Achse(0).dWinkelAnfang;
-  stab.winkelEnde = bauteil.Achse(stab.segmente - 1).dWinkelEnde;
-  stab.mittig = IsMittig(art, bauteil);
-  if (stab.segmente > 1) MesseGebogenen(bauteil, stab);
+  stab.art = ArtVon(piece);
+  stab.dicke = piece.thickness;
+  stab.segmente = static_cast<long>(piece.axes.size());
+  if (piece.axes.empty()) return stab;
+  stab.laenge = MesseSegment(piece, 0).laengs;
+  stab.breite = std::fabs(piece.Width());
+  stab.achslaenge = piece.AxisLength();
+  stab.winkelAnfang = piece.axes.front().dWinkelAnfang;
+  stab.winkelEnde = piece.axes.back().dWinkelEnde;
+  stab.mittig = IsMittig(piece);
+  if (stab.segmente > 1) MesseGebogenen(piece, stab);
   return stab;
 }
 
-Scheibe MesseScheibe(TeilArt art, double dicke, const CFeApiPolygon& umriss) {
+Scheibe MesseScheibe(TeilArt art, double dicke, const GEOM2_Polygon& umriss) {
   Scheibe scheibe;
   scheibe.art = art;
   scheibe.dicke = dicke;
-  GEOM2_Polygon polygon;
-  for (int i = 0; i < umriss.lAnzahl; ++i) polygon.AddPunkt(umriss.pdX[i], umriss.pdY[i]);
   XY min;
   XY max;
-  if (!polygon.GetMinMax(min, max)) return scheibe;
+  if (!umriss.GetMinMax(min, max)) return scheibe;
   scheibe.breite = max.x - min.x;
   scheibe.hoehe = max.y - min.y;
-  scheibe.flaeche = std::fabs(polygon.GetFlaeche());
-  for (int i = 0; i < umriss.lAnzahl; ++i) {
-    const XY p{umriss.pdX[i] - min.x, umriss.pdY[i] - min.y};
+  scheibe.flaeche = std::fabs(umriss.GetFlaeche());
+  for (const GEOM2_Eckpunkt& ecke : umriss.GetEcken()) {
+    const XY p{ecke.x - min.x, ecke.y - min.y};
     const bool amEck =
         (Nahe(p.x, 0.0, kGleichesMasz) || Nahe(p.x, scheibe.breite, kGleichesMasz)) &&
         (Nahe(p.y, 0.0, kGleichesMasz) || Nahe(p.y, scheibe.hoehe, kGleichesMasz));
@@ -193,7 +181,7 @@ Scheibe MesseScheibe(TeilArt art, double dicke, const CFeApiPolygon& umriss) {
     scheibe.umriss.push_back(p);
   }
   // Three of the box's corners make a triangle.
-  scheibe.rechteckig = scheibe.rechteckig && umriss.lAnzahl >= 4;
+  scheibe.rechteckig = scheibe.rechteckig && umriss.GetAnzahl() >= 4;
   return scheibe;
 }
 

@@ -74,7 +74,7 @@ class RowMaker {
   }
 
   std::string Record(const Stelle& stelle) const {
-    if (stelle.fluegel == kRahmensatz) return kRahmenWort.In(style_.sprache);
+    if (stelle.fluegel == kFrameRecord) return kRahmenWort.In(style_.sprache);
     const std::string& name =
         windows_[stelle.fenster].fluegel[static_cast<std::size_t>(stelle.fluegel)];
     if (!name.empty()) return name;
@@ -86,23 +86,16 @@ class RowMaker {
   std::vector<std::string> labels_;
 };
 
-std::string TextOf(const char (&buffer)[256], long length) {
-  return drawing::ToDisplayText(buffer, length);
-}
-
 }  // namespace
 
-PartsWindow DescribeWindow(const std::string& file, const CFeApi& window) {
+PartsWindow DescribeWindow(const std::string& file, const WindowView& view) {
   PartsWindow described;
-  char name[256];
-  long length = window.GetFensterBezeichnung(name);
-  described.name = TextOf(name, length);
+  described.name = drawing::ToDisplayText(view.name);
   described.datei = drawing::ToDisplayText(file);
-  described.breite = window.GetFensterBreite();
-  described.hoehe = window.GetFensterHoehe();
-  for (long i = 0; i < window.GetAnzahlFluegel(); ++i) {
-    length = window.GetFluegelName(i, name);
-    described.fluegel.push_back(TextOf(name, length));
+  described.breite = view.width;
+  described.hoehe = view.height;
+  for (const Sash& sash : view.sashes) {
+    described.fluegel.push_back(drawing::ToDisplayText(sash.name));
   }
   return described;
 }

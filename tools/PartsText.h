@@ -6,8 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "lintavo/api/CFeApi.h"
-
 #include "PartsList.h"
 #include "PartsWords.h"
 
@@ -22,7 +20,7 @@ struct PartsWindow {
   std::vector<std::string> fluegel{};  ///< names of the sashes
 };
 
-PartsWindow DescribeWindow(const std::string& file, const CFeApi& window);
+PartsWindow DescribeWindow(const std::string& file, const WindowView& view);
 
 struct PartsStyle {
   Sprache sprache = Sprache::kDeutsch;

@@ -5,7 +5,7 @@
 
 #include "lintavo/drawing/Ids.h"
 #include "lintavo/drawing/Text.h"
-#include "lintavo/model/CMFenster.h"
+#include "lintavo/view/HiddenLines.h"
 
 #include "PartsList.h"
 #include "PartsWords.h"
@@ -14,30 +14,32 @@
 namespace lintavo::tools {
 namespace {
 
-Json TextOf(const char (&buffer)[256], long length) {
-  return drawing::ToDisplayText(buffer, length);
+Json TextOf(const std::string& bytes) {
+  return drawing::ToDisplayText(bytes);
 }
 
 // --- lines ----------------------------------------------------------------------
 
-Json Line(const CFeApiStrecken& linien, int i) {
-  return Json::array({JsonNumber(linien.pdX1[i]), JsonNumber(linien.pdY1[i]),
-                      JsonNumber(linien.pdX2[i]), JsonNumber(linien.pdY2[i])});
+Json Line(const CMStrecke& line) {
+  XY a;
+  XY b;
+  line.GetPunkte(a, b);
+  return Json::array({JsonNumber(a.x), JsonNumber(a.y), JsonNumber(b.x), JsonNumber(b.y)});
 }
 
-Json Lines(int found, const CFeApiStrecken& linien) {
+Json Lines(const std::vector<CMStrecke>& linien) {
   Json lines = Json::array();
-  for (int i = 0; found == 1 && i < linien.lAnzahl; ++i) lines.push_back(Line(linien, i));
+  for (const CMStrecke& linie : linien) lines.push_back(Line(linie));
   return lines;
 }
 
-void AddView(const char* key, int found, const CFeApiStrecken& linien, JsonWriter& json) {
+void AddEdges(const char* key, const std::vector<VisibleEdge>& edges, JsonWriter& json) {
   json.BeginArray(key);
-  for (int i = 0; found == 1 && i < linien.lAnzahl; ++i) {
+  for (const VisibleEdge& edge : edges) {
     Json line;
-    line["line"] = Line(linien, i);
-    line["color"] = linien.piFarbe[i];
-    line["priority"] = linien.piPrio[i];
+    line["line"] = Line(CMStrecke(edge.from, edge.to));
+    line["color"] = edge.colour;
+    line["priority"] = edge.priority;
     json.Add(line);
   }
   json.End();
@@ -45,38 +47,33 @@ void AddView(const char* key, int found, const CFeApiStrecken& linien, JsonWrite
 
 // --- components -----------------------------------------------------------------
 
-Json SegmentOf(const Komponente& komponente, long i) {
-  const GEOM2_Achse& achse = komponente.bauteil->Achse(i);
-  GEOM2_Polygon umriss;
-  komponente.bauteil->GetUmrissPunkteAchsSegment(i, umriss);
+Json SegmentOf(const Piece& piece, std::size_t i) {
+  const GEOM2_Achse& achse = piece.axes[i];
   Json segment;
-  segment["id"] = drawing::SegmentId(komponente.kind, komponente.fluegel, komponente.index, i);
+  segment["id"] =
+      drawing::SegmentId(drawing::KindOf(piece), piece.sash, piece.index, static_cast<long>(i));
   segment["axisLength"] = JsonNumber(achse.dLaenge);
   segment["startAngle"] = JsonNumber(achse.dWinkelAnfang);
   segment["endAngle"] = JsonNumber(achse.dWinkelEnde);
-  segment["outline"] = JsonPolygon(umriss);
+  segment["outline"] = JsonPolygon(SegmentOutline(piece, i));
   return segment;
 }
 
-Json AxisOf(const CMBauteil& bauteil) {
+Json AxisOf(const Piece& piece) {
   Json axis = Json::array();
-  XY a;
-  XY b;
-  for (long i = 0; bauteil.GetAchspunkte(i, a, b); ++i) {
-    if (i == 0) axis.push_back(JsonPoint(a.x, a.y));
-    axis.push_back(JsonPoint(b.x, b.y));
+  for (const GEOM2_Achse& achse : piece.axes) {
+    if (axis.empty()) axis.push_back(JsonPoint(achse.Start.x, achse.Start.y));
+    const XY end = EndOf(achse);
+    axis.push_back(JsonPoint(end.x, end.y));
   }
   return axis;
 }
 
-Json PartOf(const Komponente& komponente) {
-  const CMBauteil& bauteil = *komponente.bauteil;
-  const Stab stab = MesseStab(komponente.art, bauteil);
-  GEOM2_Polygon umriss;
-  bauteil.GetUmrissPunkte(umriss);
+Json PartOf(const Piece& piece) {
+  const Stab stab = MesseStab(piece);
   Json part;
-  part["id"] = komponente.Id();
-  part["kind"] = ArtSchluessel(komponente.art);
+  part["id"] = IdVon(piece);
+  part["kind"] = ArtSchluessel(stab.art);
   part["length"] = JsonNumber(stab.laenge);
   part["axisLength"] = JsonNumber(stab.achslaenge);
   part["width"] = JsonNumber(stab.breite);
@@ -84,234 +81,205 @@ Json PartOf(const Komponente& komponente) {
   part["startAngle"] = JsonNumber(stab.winkelAnfang);
   part["endAngle"] = JsonNumber(stab.winkelEnde);
   part["radius"] = stab.radius > 0.0 ? JsonNumber(stab.radius) : Json(nullptr);
-  part["attributes"] = bauteil.lAttribut;
-  part["axis"] = AxisOf(bauteil);
-  part["outline"] = JsonPolygon(umriss);
+  part["attributes"] = piece.attributes;
+  part["axis"] = AxisOf(piece);
+  part["outline"] = JsonPolygon(piece.outline);
   part["segments"] = Json::array();
-  for (long i = 0; stab.segmente > 1 && i < stab.segmente; ++i) {
-    part["segments"].push_back(SegmentOf(komponente, i));
+  for (std::size_t i = 0; piece.axes.size() > 1 && i < piece.axes.size(); ++i) {
+    part["segments"].push_back(SegmentOf(piece, i));
   }
   return part;
 }
 
-void AddParts(const char* key, const std::vector<Komponente>& komponenten, JsonWriter& json) {
+void AddParts(const char* key, const std::vector<Piece>& pieces, JsonWriter& json) {
   json.BeginArray(key);
-  for (const Komponente& komponente : komponenten) json.Add(PartOf(komponente));
+  for (const Piece& piece : pieces) json.Add(PartOf(piece));
   json.End();
 }
 
 // --- sashes ---------------------------------------------------------------------
 
-const char* ShapeKey(int form) {
-  switch (form) {
-    case eFormBogen:
-      return "arch";
-    case eFormEllipse:
-      return "ellipse";
-    case eFormHalbBogen:
-      return "halfArch";
-    default:
+const char* ShapeKey(SashShape shape) {
+  switch (shape) {
+    case SashShape::kRectangle:
       return "rectangle";
+    case SashShape::kArch:
+      return "arch";
+    case SashShape::kEllipse:
+      return "ellipse";
+    case SashShape::kHalfArch:
+      return "halfArch";
   }
+  return "rectangle";
 }
 
-Json OpeningOf(const CFeApi& window, long i) {
-  char text[256];
-  Json opening;
-  long length = window.GetFluegelGangart(i, text);
-  opening["kind"] = TextOf(text, length);
-  length = window.GetFluegelAnschlag(i, text);
-  opening["hinge"] = TextOf(text, length);
-  length = window.GetFluegelOeffSeite(i, text);
-  opening["side"] = TextOf(text, length);
-  opening["first"] = window.GetFluegelZuerstAufgehend(i) == 1;
-  return opening;
+Json OpeningOf(const Opening& opening) {
+  Json described;
+  described["kind"] = ShortText(opening.kind);
+  described["hinge"] = ShortText(opening.hinge);
+  described["side"] = ShortText(opening.side);
+  described["first"] = opening.first;
+  return described;
 }
 
-Json SymbolOf(const CFeApi& window, long i) {
-  CFeApiStrecken linien;
-  const int found = window.GetFluegelOeffnungsSymbol(i, linien);
+Json SymbolOf(const Sash& sash, long i) {
   Json symbol;
   symbol["id"] = drawing::SymbolId(i);
-  symbol["lines"] = Lines(found, linien);
+  symbol["lines"] = Lines(sash.symbol);
   return symbol;
 }
 
-void AddFilling(const CFeApi& window, const CMFensterSatz& satz, long i, JsonWriter& json) {
-  CFeApiPolygon umriss;
-  window.GetFluegelFuellungUmriss(i, umriss);
-  const std::vector<CMBauteil> lamellen = LegeLamellen(window, i);
+const char* FillingKey(FillingKind kind) {
+  switch (kind) {
+    case FillingKind::kGlass:
+      return "glass";
+    case FillingKind::kPanel:
+      return "panel";
+    case FillingKind::kSlats:
+      return "slats";
+  }
+  return "glass";
+}
+
+void AddFilling(const Filling& filling, long i, JsonWriter& json) {
   json.BeginObject("filling");
   json.Add("id", drawing::IdOf(drawing::ShapeKind::kGlas, i, 0));
-  json.Add("kind", satz.Fuellung.IsLamellen() ? "slats" : ArtSchluessel(FuellungArt(window, i)));
-  json.Add("thickness", JsonNumber(window.GetFluegelFuellungDicke(i)));
-  Json attributes = Json::array();
-  for (const long n : {1, 2, 3, 4}) attributes.push_back(window.GetFluegelFuellungAttribut(i, n));
-  json.Add("attributes", attributes);
-  json.Add("outline", JsonPolygon(umriss));
-  json.BeginArray("slats");
-  for (const Komponente& lamelle : Lamellen(lamellen, i)) {
-    Json part = PartOf(lamelle);
-    window.GetFluegelLamellenUmriss(i, lamelle.index, umriss);
-    part["outline"] = JsonPolygon(umriss);
-    json.Add(part);
-  }
-  json.End();
+  json.Add("kind", FillingKey(filling.kind));
+  json.Add("thickness", JsonNumber(filling.thickness));
+  json.Add("attributes", filling.attributes);
+  json.Add("outline", JsonPolygon(filling.contour));
+  AddParts("slats", filling.slats, json);
   json.End();
 }
 
-Json FittingOf(const CFeApi& window, long i, long j) {
-  const long typ = window.GetBeschlagTyp(i, j);
-  double x = 0.0;
-  double y = 0.0;
-  double winkel = 0.0;
-  const bool placed = window.GetBeschlagPunkt(i, j, x, y, winkel) == 1;
-  CFeApiStrecken linien;
-  const int drawn = window.GetBeschlagZeichnung(i, j, linien);
-  Json fitting;
-  fitting["id"] = drawing::BeschlagId(i, j);
-  fitting["kind"] = ArtSchluessel(BeschlagArt(static_cast<int>(typ)));
-  fitting["type"] = typ;
-  fitting["position"] = placed ? JsonPoint(x, y) : Json(nullptr);
-  fitting["angle"] = placed ? JsonNumber(winkel) : Json(nullptr);
-  fitting["lines"] = Lines(drawn, linien);
-  return fitting;
+Json FittingOf(const Fitting& fitting, long i, long j) {
+  Json described;
+  described["id"] = drawing::BeschlagId(i, j);
+  described["kind"] = ArtSchluessel(ArtVon(fitting));
+  described["type"] = fitting.type;
+  described["position"] = fitting.place ? JsonPoint(fitting.place->x, fitting.place->y) : nullptr;
+  described["angle"] = fitting.place ? JsonNumber(fitting.angle) : Json(nullptr);
+  described["lines"] = Lines(fitting.lines);
+  return described;
 }
 
-void AddGlassDimensions(const CFeApi& window, long i, JsonWriter& json) {
-  CFeApiStrecken linien;
-  int found = window.GetFluegelGlaslichteHori(i, linien);
-  json.Add("glassWidths", Lines(found, linien));
-  found = window.GetFluegelGlaslichteVert(i, linien);
-  json.Add("glassHeights", Lines(found, linien));
-}
-
-void AddSash(const CFeApi& window, long i, bool views, JsonWriter& json) {
-  const CMFensterSatz& satz = *SatzVon(window, i);
-  char name[256];
-  const long length = window.GetFluegelName(i, name);
-  CFeApiPolygon innen;
-  window.GetFluegelInnenPolygon(i, 0.0, innen);
+void AddSash(const Sash& sash, long i, bool views, JsonWriter& json) {
   json.BeginObject();
   json.Add("id", drawing::FluegelId(i));
-  json.Add("name", TextOf(name, length));
-  json.Add("shape", ShapeKey(satz.lForm));
-  json.Add("opening", OpeningOf(window, i));
-  json.Add("width", JsonNumber(window.GetFluegelRahmenBreite(i)));
-  json.Add("thickness", JsonNumber(window.GetFluegelRahmenDicke(i)));
-  json.Add("overlap", JsonNumber(window.GetFluegelUeberschlag(i)));
-  json.Add("offsetInside", JsonNumber(window.GetFluegelZVersatz(i, 0)));
-  json.Add("offsetOutside", JsonNumber(window.GetFluegelZVersatz(i, 1)));
-  json.Add("outline", JsonPolygon(satz.RahmenPolygon));
-  json.Add("innerOutline", JsonPolygon(innen));
-  AddParts("parts", Rahmenteile(satz, i), json);
-  AddParts("singleParts", Einzelteile(satz, i), json);
-  AddParts("bars", Sprossen(satz, i), json);
-  AddFilling(window, satz, i, json);
+  json.Add("name", TextOf(sash.name));
+  json.Add("shape", ShapeKey(sash.shape));
+  json.Add("opening", OpeningOf(sash.opening));
+  json.Add("width", JsonNumber(sash.width));
+  json.Add("thickness", JsonNumber(sash.thickness));
+  json.Add("overlap", JsonNumber(sash.overlap));
+  json.Add("offsetInside", JsonNumber(sash.offset[0]));
+  json.Add("offsetOutside", JsonNumber(sash.offset[1]));
+  json.Add("outline", JsonPolygon(sash.outline));
+  json.Add("innerOutline", JsonPolygon(sash.inner));
+  AddParts("parts", sash.parts, json);
+  AddParts("singleParts", sash.singles, json);
+  AddParts("bars", sash.bars, json);
+  AddFilling(sash.filling, i, json);
   json.BeginArray("fittings");
-  for (long j = 0; j < window.GetAnzahlBeschlaege(i); ++j) json.Add(FittingOf(window, i, j));
+  for (std::size_t j = 0; j < sash.fittings.size(); ++j) {
+    json.Add(FittingOf(sash.fittings[j], i, static_cast<long>(j)));
+  }
   json.End();
-  json.Add("symbol", SymbolOf(window, i));
-  AddGlassDimensions(window, i, json);
+  json.Add("symbol", SymbolOf(sash, i));
+  json.Add("glassWidths", Lines(sash.glassWidths));
+  json.Add("glassHeights", Lines(sash.glassHeights));
   if (views) {
-    CFeApiStrecken linien;
-    const int found = window.GetFluegelAnsicht(i, 0, linien);
-    AddView("view", found, linien, json);
+    std::vector<VisibleEdge> edges;
+    FindVisibleEdges(sash, edges);
+    AddEdges("view", edges, json);
   }
   json.End();
 }
 
 // --- the window -----------------------------------------------------------------
 
-Json Positions(int count, double (CMAchsen::*position)(int) const, const CMAchsen& achsen) {
-  Json positions = Json::array();
-  for (int i = 0; i < count; ++i) positions.push_back(JsonNumber((achsen.*position)(i)));
-  return positions;
+Json Numbers(const std::vector<double>& values) {
+  Json numbers = Json::array();
+  for (const double value : values) numbers.push_back(JsonNumber(value));
+  return numbers;
 }
 
-void AddAxes(const CMAchsen& achsen, JsonWriter& json) {
+void AddAxes(const WindowView& view, JsonWriter& json) {
   json.BeginObject("axes");
-  json.Add("x", Positions(achsen.iGetCntVerti(), &CMAchsen::dGetPosVerti, achsen));
-  json.Add("y", Positions(achsen.iGetCntHori(), &CMAchsen::dGetPosHori, achsen));
+  json.Add("x", Numbers(view.axesX));
+  json.Add("y", Numbers(view.axesY));
   json.End();
 }
 
-Json BoxOf(const CFeApi& window) {
-  double box[4] = {};
-  if (window.GetBox(0.0, box[0], box[1], box[2], box[3]) != 1) return nullptr;
+Json BoxOf(const ViewBox& box) {
+  if (!(box.left <= box.right) || !(box.bottom <= box.top)) return nullptr;
   Json described;
-  described["left"] = JsonNumber(box[0]);
-  described["bottom"] = JsonNumber(box[1]);
-  described["right"] = JsonNumber(box[2]);
-  described["top"] = JsonNumber(box[3]);
+  described["left"] = JsonNumber(box.left);
+  described["bottom"] = JsonNumber(box.bottom);
+  described["right"] = JsonNumber(box.right);
+  described["top"] = JsonNumber(box.top);
   return described;
 }
 
-void AddFrame(const CFeApi& window, JsonWriter& json) {
-  const CMFensterSatz& rahmen = *SatzVon(window, kRahmensatz);
+void AddFrame(const Record& frame, JsonWriter& json) {
   json.BeginObject("frame");
-  json.Add("width", JsonNumber(window.GetRahmenBreite()));
-  json.Add("thickness", JsonNumber(window.GetRahmenDicke()));
-  json.Add("outline", JsonPolygon(rahmen.RahmenPolygon));
-  AddParts("parts", Rahmenteile(rahmen, kRahmensatz), json);
-  AddParts("singleParts", Einzelteile(rahmen, kRahmensatz), json);
+  json.Add("width", JsonNumber(frame.width));
+  json.Add("thickness", JsonNumber(frame.thickness));
+  json.Add("outline", JsonPolygon(frame.outline));
+  AddParts("parts", frame.parts, json);
+  AddParts("singleParts", frame.singles, json);
   json.End();
 }
 
-Json RoleOf(const CFeApi& window, long i) {
-  long width = -1;
-  long height = -1;
-  window.IsZMaszBreiteHoehe(width, height);
-  if (i == width) return "width";
-  return i == height ? Json("height") : Json(nullptr);
+Json RoleOf(DimensionRole role) {
+  if (role == DimensionRole::kWidth) return "width";
+  return role == DimensionRole::kHeight ? Json("height") : Json(nullptr);
 }
 
-Json DimensionOf(const CFeApi& window, long i) {
-  char name[256];
-  const long length = window.GetZMaszName(i, name);
-  CFeApiStrecken linie;
-  const bool drawn = window.GetZMaszLinie(i, linie) == 1 && linie.lAnzahl == 1;
-  Json dimension;
-  dimension["id"] = drawing::MaszId(i);
-  dimension["name"] = TextOf(name, length);
-  dimension["length"] = JsonNumber(window.GetZMaszLaenge(i));
-  dimension["direction"] =
-      window.GetFensterPtr()->GetZusatzMaszPtr(i)->IsHorizonal() ? "horizontal" : "vertical";
-  dimension["role"] = RoleOf(window, i);
-  dimension["line"] = drawn ? Line(linie, 0) : Json(nullptr);
-  return dimension;
+Json DimensionOf(const Dimension& dimension, long i) {
+  Json described;
+  described["id"] = drawing::MaszId(i);
+  described["name"] = TextOf(dimension.name);
+  described["length"] = JsonNumber(dimension.length);
+  described["direction"] = dimension.horizontal ? "horizontal" : "vertical";
+  described["role"] = RoleOf(dimension.role);
+  described["line"] = dimension.line ? Line(*dimension.line) : Json(nullptr);
+  return described;
 }
 
-void AddViews(const CFeApi& window, JsonWriter& json) {
+void AddViews(const WindowView& view, JsonWriter& json) {
+  std::vector<VisibleEdge> edges;
   json.BeginObject("views");
-  CFeApiStrecken linien;
-  int found = window.GetAnsicht(0, linien);
-  AddView("inside", found, linien, json);
-  found = window.GetAnsicht(1, linien);
-  AddView("outside", found, linien, json);
+  FindVisibleEdges(view, ViewSide::kInside, edges);
+  AddEdges("inside", edges, json);
+  FindVisibleEdges(view, ViewSide::kOutside, edges);
+  AddEdges("outside", edges, json);
   json.End();
 }
 
 }  // namespace
 
-void WriteWindowJson(const std::string& file, const CFeApi& window, bool views, JsonWriter& json) {
-  char name[256];
-  const long length = window.GetFensterBezeichnung(name);
+void WriteWindowJson(const std::string& file, const WindowView& view, bool views,
+                     JsonWriter& json) {
   json.BeginObject();
   json.Add("file", drawing::ToDisplayText(file));
-  json.Add("name", TextOf(name, length));
-  json.Add("width", JsonNumber(window.GetFensterBreite()));
-  json.Add("height", JsonNumber(window.GetFensterHoehe()));
-  json.Add("box", BoxOf(window));
-  AddAxes(window.GetFensterPtr()->GetAchsen(), json);
-  AddFrame(window, json);
+  json.Add("name", TextOf(view.name));
+  json.Add("width", JsonNumber(view.width));
+  json.Add("height", JsonNumber(view.height));
+  json.Add("box", BoxOf(view.box));
+  AddAxes(view, json);
+  AddFrame(view.frame, json);
   json.BeginArray("sashes");
-  for (long i = 0; i < window.GetAnzahlFluegel(); ++i) AddSash(window, i, views, json);
+  for (std::size_t i = 0; i < view.sashes.size(); ++i) {
+    AddSash(view.sashes[i], static_cast<long>(i), views, json);
+  }
   json.End();
   json.BeginArray("dimensions");
-  for (long i = 0; i < window.GetAnzahlZusatzMasze(); ++i) json.Add(DimensionOf(window, i));
+  for (std::size_t i = 0; i < view.dimensions.size(); ++i) {
+    json.Add(DimensionOf(view.dimensions[i], static_cast<long>(i)));
+  }
   json.End();
-  if (views) AddViews(window, json);
+  if (views) AddViews(view, json);
   json.End();
 }
 

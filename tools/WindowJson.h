@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "lintavo/api/CFeApi.h"
+#include "lintavo/view/WindowView.h"
 
 #include "JsonText.h"
 
@@ -14,6 +14,6 @@ inline constexpr const char* kWindowSchema = "lintavo-window/1";
 
 /// Writes the window as one object; `views` adds the views with hidden lines removed.
 /// docs/json_schema.md tells what each member means.
-void WriteWindowJson(const std::string& file, const CFeApi& window, bool views, JsonWriter& json);
+void WriteWindowJson(const std::string& file, const WindowView& view, bool views, JsonWriter& json);
 
 }  // namespace lintavo::tools

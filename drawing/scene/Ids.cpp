@@ -17,6 +17,33 @@ std::string InFluegel(long fluegel, const std::string& id) {
 
 }  // namespace
 
+ShapeKind KindOf(const Piece& piece) {
+  const bool ofFrame = piece.sash == kFrameRecord;
+  switch (piece.kind) {
+    case PieceKind::kFramePart:
+      return ShapeKind::kRahmenteil;
+    case PieceKind::kSashPart:
+      return ShapeKind::kFluegelteil;
+    case PieceKind::kMullion:
+    case PieceKind::kTransom:
+    case PieceKind::kInnerPart:
+      return ofFrame ? ShapeKind::kEinzelteil : ShapeKind::kFluegelEinzelteil;
+    case PieceKind::kOuterPart:
+      return ofFrame ? ShapeKind::kZusatzteil : ShapeKind::kFluegelEinzelteil;
+    case PieceKind::kBar:
+      return ShapeKind::kSprosse;
+    case PieceKind::kSlat:
+      return ShapeKind::kLamelle;
+    case PieceKind::kGlass:
+      return ShapeKind::kGlas;
+    case PieceKind::kPanel:
+      return ShapeKind::kPaneel;
+    case PieceKind::kSlatGround:
+      return ShapeKind::kLamellen;
+  }
+  return ShapeKind::kRahmenteil;
+}
+
 std::string IdOf(ShapeKind kind, long fluegel, long teil) {
   switch (kind) {
     case ShapeKind::kRahmenteil:

@@ -72,19 +72,15 @@ void AddMeasures(const WindowView& view, const SceneOptions& options, Scene& sce
   }
 }
 
-// How a sash opens, in the short texts of the macro file.
-Oeffnung OpeningOf(const Sash& sash) {
-  const auto text = [](CString shortText) { return std::string(shortText.View()); };
-  return {text(CMFensterSatz::GetGangArtKurzText(static_cast<long>(sash.opening.kind))),
-          text(CMFensterSatz::GetAnschlagKurzText(static_cast<long>(sash.opening.hinge))),
-          text(CMFensterSatz::GetOeffSeitenKurzText(static_cast<long>(sash.opening.side)))};
-}
-
 void Describe(const WindowView& view, Scene& scene) {
   scene.name = ToDisplayText(view.name);
   scene.breite = view.width;
   scene.hoehe = view.height;
-  for (const Sash& sash : view.sashes) scene.fluegel.push_back(OpeningOf(sash));
+  for (const Sash& sash : view.sashes) {
+    const Opening& opening = sash.opening;
+    scene.fluegel.push_back(
+        {ShortText(opening.kind), ShortText(opening.hinge), ShortText(opening.side)});
+  }
 }
 
 // Widens a box; false for a point that is no finite one.

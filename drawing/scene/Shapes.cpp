@@ -16,33 +16,6 @@ long ColourOf(const Piece& piece, ViewSide side) {
 
 }  // namespace
 
-ShapeKind KindOf(const Piece& piece) {
-  const bool ofFrame = piece.sash == kFrameRecord;
-  switch (piece.kind) {
-    case PieceKind::kFramePart:
-      return ShapeKind::kRahmenteil;
-    case PieceKind::kSashPart:
-      return ShapeKind::kFluegelteil;
-    case PieceKind::kMullion:
-    case PieceKind::kTransom:
-    case PieceKind::kInnerPart:
-      return ofFrame ? ShapeKind::kEinzelteil : ShapeKind::kFluegelEinzelteil;
-    case PieceKind::kOuterPart:
-      return ofFrame ? ShapeKind::kZusatzteil : ShapeKind::kFluegelEinzelteil;
-    case PieceKind::kBar:
-      return ShapeKind::kSprosse;
-    case PieceKind::kSlat:
-      return ShapeKind::kLamelle;
-    case PieceKind::kGlass:
-      return ShapeKind::kGlas;
-    case PieceKind::kPanel:
-      return ShapeKind::kPaneel;
-    case PieceKind::kSlatGround:
-      return ShapeKind::kLamellen;
-  }
-  return ShapeKind::kRahmenteil;
-}
-
 long NumberOf(const Piece& piece) {
   return piece.kind < PieceKind::kGlass ? piece.index : -1;
 }

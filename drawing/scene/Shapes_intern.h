@@ -11,9 +11,6 @@ namespace lintavo::drawing {
 /// Appends the pieces of one layer, given the nearest first, those that lie behind first.
 void AddShapes(const std::vector<const Piece*>& nearestFirst, ViewSide side, Scene& scene);
 
-/// What a piece is called in pictures.
-ShapeKind KindOf(const Piece& piece);
-
 /// The index of a piece in its id; -1 for a filling.
 long NumberOf(const Piece& piece);
 

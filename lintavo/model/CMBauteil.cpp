@@ -5,16 +5,11 @@
 #include <cmath>
 
 #include "lintavo/geom/Toleranzen.h"
+#include "lintavo/view/WindowView.h"
 
 namespace {
 
 constexpr long kMaxAbschnittsTyp = 4;
-
-XY Endpunkt(const GEOM2_Achse& achse) {
-  const double winkel = achse.dWinkel * lintavo::kPi / 180.0;
-  return {achse.Start.x + achse.dLaenge * std::cos(winkel),
-          achse.Start.y + achse.dLaenge * std::sin(winkel)};
-}
 
 int AbschnittsTyp(long typ) {
   return typ < 0 || typ > kMaxAbschnittsTyp ? 0 : static_cast<int>(typ);
@@ -53,7 +48,7 @@ bool CMBauteil::GetAchspunkte(XY& a, XY& b) const {
 bool CMBauteil::GetAchspunkte(long i, XY& a, XY& b) const {
   if (i < 0 || i >= lGetAnzAchsen()) return false;
   a = Achse(i).Start;
-  b = Endpunkt(Achse(i));
+  b = lintavo::EndOf(Achse(i));
   return true;
 }
 
@@ -102,7 +97,7 @@ void CMBauteil::Verlaengern(double anfang, double ende) {
   GEOM2_Achse& achse = Achsen.front();
   const double winkel = achse.dWinkel * lintavo::kPi / 180.0;
   const XY richtung{std::cos(winkel), std::sin(winkel)};
-  const XY b = Endpunkt(achse);
+  const XY b = lintavo::EndOf(achse);
   GEOM2_Polygon::SetAchse(
       {achse.Start.x - anfang * richtung.x, achse.Start.y - anfang * richtung.y},
       {b.x + ende * richtung.x, b.y + ende * richtung.y}, achse);
@@ -115,7 +110,7 @@ void CMBauteil::Drehen(double winkel) {
   const XY centre = Achsen.front().Start;
   for (GEOM2_Achse& achse : Achsen) {
     const XY a = Gedreht(achse.Start, centre, c, s);
-    const XY b = Gedreht(Endpunkt(achse), centre, c, s);
+    const XY b = Gedreht(lintavo::EndOf(achse), centre, c, s);
     GEOM2_Polygon::SetAchse(a, b, achse);
   }
 }

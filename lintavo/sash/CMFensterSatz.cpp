@@ -1,12 +1,12 @@
 #include "lintavo/sash/CMFensterSatz.h"
 
 #include <algorithm>
-#include <array>
 #include <cassert>
 #include <utility>
 
 #include "lintavo/model/CMAchsen.h"
 #include "lintavo/platform/Elements_intern.h"
+#include "lintavo/view/WindowView.h"
 
 namespace {
 
@@ -14,23 +14,23 @@ constexpr double kSprossenBreite = 4.0;
 constexpr double kSprossenDicke = 4.0;
 [[maybe_unused]] constexpr long kAnzahlFormBeiwerte = 4;
 
-constexpr std::array<const char*, 2> kOeffSeiten = {"In", "Au"};
-constexpr std::array<const char*, 12> kGangarten = {"Fe", "Dr", "Ki", "Kl", "DK", "HD",
-                                                    "Sw", "We", "Sc", "HS", "Fa", "HSK"};
-constexpr std::array<const char*, 4> kAnschlaege = {"Li", "Re", "Ob", "Un"};
+// Counts of the short texts, which the view knows.
+constexpr int kAnzahlOeffSeiten = 2;
+constexpr int kAnzahlGangarten = 12;
+constexpr int kAnzahlAnschlaege = 4;
 
-template <std::size_t N>
-long IndexOf(const std::array<const char*, N>& texts, const CString& text) {
-  for (std::size_t i = 0; i < N; ++i) {
-    if (text.CompareNoCase(texts[i]) == 0) return static_cast<long>(i);
-  }
-  return -1;
+template <class Enum>
+CString TextAt(long i, [[maybe_unused]] int count) {
+  assert(i >= 0 && i < count);
+  return lintavo::ShortText(static_cast<Enum>(i));
 }
 
-template <std::size_t N>
-CString TextAt(const std::array<const char*, N>& texts, long i) {
-  assert(i >= 0 && static_cast<std::size_t>(i) < N);
-  return texts[static_cast<std::size_t>(i)];
+template <class Enum>
+long IndexOf(const CString& text, int count) {
+  for (int i = 0; i < count; ++i) {
+    if (text.CompareNoCase(lintavo::ShortText(static_cast<Enum>(i))) == 0) return i;
+  }
+  return -1;
 }
 
 long CountPresent(const std::vector<CMBauteil>& liste) {
@@ -106,23 +106,23 @@ void CMFensterSatz::SetRahmenDefaults(double width, double thickness, double wid
 }
 
 long CMFensterSatz::GetOeffSeitenIndex(const CString& text) {
-  return IndexOf(kOeffSeiten, text);
+  return IndexOf<lintavo::ViewSide>(text, kAnzahlOeffSeiten);
 }
 long CMFensterSatz::GetGangArtIndex(const CString& text) {
-  return IndexOf(kGangarten, text);
+  return IndexOf<lintavo::OpeningKind>(text, kAnzahlGangarten);
 }
 long CMFensterSatz::GetAnschlagIndex(const CString& text) {
-  return IndexOf(kAnschlaege, text);
+  return IndexOf<lintavo::HingeSide>(text, kAnzahlAnschlaege);
 }
 
 CString CMFensterSatz::GetOeffSeitenKurzText(long i) {
-  return TextAt(kOeffSeiten, i);
+  return TextAt<lintavo::ViewSide>(i, kAnzahlOeffSeiten);
 }
 CString CMFensterSatz::GetGangArtKurzText(long i) {
-  return TextAt(kGangarten, i);
+  return TextAt<lintavo::OpeningKind>(i, kAnzahlGangarten);
 }
 CString CMFensterSatz::GetAnschlagKurzText(long i) {
-  return TextAt(kAnschlaege, i);
+  return TextAt<lintavo::HingeSide>(i, kAnzahlAnschlaege);
 }
 
 CMBauteil* CMFensterSatz::GetRahmenBauteilPtr(long i) {

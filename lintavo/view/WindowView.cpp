@@ -1,11 +1,18 @@
 #include "lintavo/view/WindowView.h"
 
+#include <cmath>
 #include <functional>
 
 #include "lintavo/geom/SegmentOutline_intern.h"
+#include "lintavo/geom/Toleranzen.h"
 
 namespace lintavo {
 namespace {
+
+constexpr const char* kOpeningTexts[] = {"Fe", "Dr", "Ki", "Kl", "DK", "HD",
+                                         "Sw", "We", "Sc", "HS", "Fa", "HSK"};
+constexpr const char* kHingeTexts[] = {"Li", "Re", "Ob", "Un"};
+constexpr const char* kSideTexts[] = {"In", "Au"};
 
 template <class Wanted>
 void Append(const std::vector<Piece>& pieces, Wanted wanted, std::vector<const Piece*>& list) {
@@ -56,6 +63,29 @@ GEOM2_Polygon SegmentOutline(const Piece& piece, std::size_t axis) {
     outline.AddPunkt(left.places[i].x, left.places[i].y);
   }
   return outline;
+}
+
+XY EndOf(const GEOM2_Achse& axis) {
+  const double angle = axis.dWinkel * kPi / 180.0;
+  return {axis.Start.x + axis.dLaenge * std::cos(angle),
+          axis.Start.y + axis.dLaenge * std::sin(angle)};
+}
+
+std::vector<XY> AxisCorners(const Piece& piece) {
+  std::vector<XY> corners;
+  for (const GEOM2_Achse& axis : piece.axes) corners.push_back(axis.Start);
+  if (!piece.axes.empty()) corners.push_back(EndOf(piece.axes.back()));
+  return corners;
+}
+
+const char* ShortText(OpeningKind kind) {
+  return kOpeningTexts[static_cast<std::size_t>(kind)];
+}
+const char* ShortText(HingeSide side) {
+  return kHingeTexts[static_cast<std::size_t>(side)];
+}
+const char* ShortText(ViewSide side) {
+  return kSideTexts[static_cast<std::size_t>(side)];
 }
 
 }  // namespace lintavo

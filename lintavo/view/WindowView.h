@@ -87,7 +87,7 @@ struct Piece {
 
   /// Across the axes.
   double Width() const { return left - right; }
-  double AxisLength() const;
+  LINTAVO_API double AxisLength() const;
   /// The section lies centred on its axes.
   bool IsCentred() const { return left == -right; }  // exact: halves of one width
 };
@@ -187,6 +187,17 @@ LINTAVO_API std::vector<const Piece*> FromNearest(const Sash& sash);
 /// Outline of a section along one axis: right start, right end, left end, left start; where a
 /// mitre ends before the left side with one corner more for each.
 LINTAVO_API GEOM2_Polygon SegmentOutline(const Piece& piece, std::size_t axis);
+
+/// The end of an axis.
+LINTAVO_API XY EndOf(const GEOM2_Achse& axis);
+
+/// The corners of a piece's centre line: where its axes start, and the end of the last one.
+LINTAVO_API std::vector<XY> AxisCorners(const Piece& piece);
+
+/// The short texts by which macro files name how a sash opens; static.
+LINTAVO_API const char* ShortText(OpeningKind kind);
+LINTAVO_API const char* ShortText(HingeSide side);
+LINTAVO_API const char* ShortText(ViewSide side);
 
 /// Whether the sash opens towards the viewer.
 inline bool OpensTowards(const Sash& sash, ViewSide side) {

@@ -13,6 +13,7 @@
 #include "Output.h"
 #include "WindowFile.h"
 #include "WindowJson.h"
+#include "WindowParts.h"
 #include "commands/Commands.h"
 
 namespace lintavo::tools {
@@ -38,7 +39,7 @@ void ExportTo(const std::string& target, const std::vector<std::string>& files,
     json.Add("schema", kWindowSchema);
     json.BeginArray("windows");
     for (std::size_t i = 0; i < windows.size(); ++i) {
-      WriteWindowJson(files[i], windows[i], options.views, json);
+      WriteWindowJson(files[i], ViewOf(windows[i]), options.views, json);
     }
     json.End();
     json.End();

@@ -69,8 +69,9 @@ void ListTo(const std::string& target, const std::vector<std::string>& files,
   for (const std::string& file : files) {
     CFeApi window;
     LoadWindow(file, arguments.files.section, window);
-    collector.Add(window);
-    windows.push_back(DescribeWindow(file, window));
+    const WindowView view = ViewOf(window);
+    collector.Add(view);
+    windows.push_back(DescribeWindow(file, view));
     windows.back().breite *= scale;
     windows.back().hoehe *= scale;
   }

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "lintavo/drawing/Export.h"
+#include "lintavo/view/WindowView.h"
 
 namespace lintavo::drawing {
 
@@ -35,6 +36,9 @@ enum class LineKind {
   kMaszLinie,        ///< line of a dimension
   kHilfsLinie        ///< extension line of a dimension
 };
+
+/// What a piece of a window is in pictures.
+LINTAVO_DRAWING_API ShapeKind KindOf(const Piece& piece);
 
 /// The id of a part: "rahmen-2", "einzelteil-0", "zusatzteil-3" (the façade's index among
 /// the frame's single parts for both), "fluegel-1-rahmen-2", "fluegel-1-einzelteil-0",
