@@ -94,6 +94,17 @@ class Composer {
     return figure;
   }
 
+  // The surface; its lines are the strokes.
+  Figure FigureOf(const FittingShape& fitting) const {
+    Line line;
+    line.kind = LineKind::kBeschlag;
+    Figure figure{"", ClassOf(line.kind), LayerOf(line.kind)};
+    figure.traces.push_back({fitting.outline, true});
+    figure.fill = FittingFill();
+    figure.pen = PenOf(line, composition_.style);
+    return figure;
+  }
+
   static Group& Named(Group& parent, std::string id, const char* klass) {
     const auto found = std::find_if(parent.groups.rbegin(), parent.groups.rend(),
                                     [&](const Group& group) { return group.id == id; });
@@ -132,10 +143,20 @@ class Composer {
 
   void AddFittings(Group& root) const {
     Group all{Id("beschlaege"), "beschlaege"};
+    const auto group = [&](long fluegel, long beschlag) -> Group& {
+      return Named(all, Id(BeschlagId(fluegel, beschlag)), "beschlag");
+    };
+    for (const FittingShape& fitting : scene_.beschlaege) {
+      group(fitting.fluegel, fitting.beschlag).figures.push_back(FigureOf(fitting));
+    }
     for (const Line& line : scene_.lines) {
       if (line.kind != LineKind::kBeschlag) continue;
-      Named(all, Id(BeschlagId(line.fluegel, line.bauteil)), "beschlag")
-          .figures.push_back(FigureOf(line));
+      Group& own = group(line.fluegel, line.bauteil);
+      if (own.figures.empty() || !own.figures.front().fill) {
+        own.figures.push_back(FigureOf(line));
+      } else {
+        own.figures.front().strokes.push_back({{line.from, line.to}, false});
+      }
     }
     if (!all.groups.empty()) root.groups.push_back(std::move(all));
   }

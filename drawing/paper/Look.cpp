@@ -24,6 +24,7 @@ constexpr Colour Rgb(int red, int green, int blue) {
 constexpr Colour kInk = Rgb(0x4a, 0x44, 0x3c);
 constexpr Colour kSymbolInk = Rgb(0x2f, 0x5d, 0x8a);
 constexpr Colour kFittingInk = Rgb(0x26, 0x22, 0x1e);
+constexpr Colour kFittingFill = Rgb(0xd6, 0xd8, 0xd8);
 constexpr Colour kMeasureInk = Rgb(0x33, 0x33, 0x33);
 constexpr Colour kHatchingInk = Rgb(0x9a, 0x94, 0x88);
 
@@ -109,6 +110,10 @@ Pen PenOf(const Line& line, const Style& style) {
       return {kHilfslinienPen * style.pens.masze, masz, line.dashed};
   }
   return {};
+}
+
+Colour FittingFill() {
+  return kFittingFill;
 }
 
 Pen UmrissPen(const Style& style) {

@@ -15,6 +15,9 @@ Pen PenOf(const Shape& shape, const Style& style);
 
 Pen PenOf(const Line& line, const Style& style);
 
+/// The colour of handles and hinges.
+Colour FittingFill();
+
 /// The pen that follows the outline of the window's frame.
 Pen UmrissPen(const Style& style);
 

@@ -106,6 +106,7 @@ Scene BuildScene(const WindowView& view, const SceneOptions& options) {
     scene.shapes.clear();
   }
   AddFittings(view, options.side, scene);
+  if (options.hiddenLine) CutAtFittings(scene);
   if (options.dimensions) AddMeasures(view, options, scene);
   return scene;
 }

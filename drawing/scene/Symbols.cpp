@@ -1,5 +1,6 @@
 // Opening symbols, fittings and visible edges.
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "lintavo/geom/KanteClippen.h"
@@ -93,8 +94,32 @@ void AddFittings(const WindowView& view, ViewSide side, Scene& scene) {
     kind.fluegel = static_cast<long>(i);
     for (std::size_t j = 0; j < sash.fittings.size(); ++j) {
       kind.bauteil = static_cast<long>(j);
-      for (const CMStrecke& strecke : sash.fittings[j].lines) AddLine(strecke, kind, scene);
+      const Fitting& fitting = sash.fittings[j];
+      for (const CMStrecke& strecke : fitting.lines) AddLine(strecke, kind, scene);
+      if (fitting.outline.GetAnzahl() < 3) continue;
+      scene.beschlaege.push_back({kind.fluegel, kind.bauteil, ToOutline(fitting.outline)});
     }
+  }
+}
+
+void CutAtFittings(Scene& scene) {
+  const std::vector<FittingShape> fittings = std::exchange(scene.beschlaege, {});
+  const std::vector<Line> whole = std::exchange(scene.lines, {});
+  for (const Line& line : whole) {
+    const CMStrecke strecke(line.from.x, line.from.y, line.to.x, line.to.y);
+    const Box box = BoxOf({strecke});
+    std::vector<GEOM2_Polygon> covers;
+    for (const FittingShape& fitting : fittings) {
+      const bool isOver = line.kind != LineKind::kBeschlag && !IsApart(box, fitting.outline);
+      if (isOver) covers.push_back(ToPolygon(fitting.outline));
+    }
+    if (covers.empty()) {
+      scene.lines.push_back(line);
+      continue;
+    }
+    std::vector<CMStrecke> visible;
+    ClippKanteAnPolys(strecke, covers, visible, false);
+    for (const CMStrecke& stueck : visible) AddLine(stueck, line, scene);
   }
 }
 

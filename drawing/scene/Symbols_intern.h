@@ -16,6 +16,10 @@ void AddSymbol(const Sash& sash, long fluegel, ViewSide side, std::size_t firstI
 /// Appends the fittings of all sashes that show them on that side.
 void AddFittings(const WindowView& view, ViewSide side, Scene& scene);
 
+/// Cuts the scene's edges and symbols where its handles and hinges cover them, and drops the
+/// surfaces of these.
+void CutAtFittings(Scene& scene);
+
 /// Appends the visible edges of the window, each with the piece that it belongs to.
 void AddVisibleEdges(const WindowView& view, ViewSide side, Scene& scene);
 

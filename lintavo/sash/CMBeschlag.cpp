@@ -5,6 +5,7 @@
 
 #include "lintavo/geom/CMStrecke.h"
 #include "lintavo/geom/Toleranzen.h"
+#include "lintavo/sash/Beschlagbild_intern.h"
 #include "lintavo/sash/CMFensterSatz.h"
 
 namespace {
@@ -45,34 +46,61 @@ const CMBauteil* TragendesBauteil(const CMFensterSatz* sash, long part) {
   return bauteil && bauteil->IsVorhanden() ? bauteil : nullptr;
 }
 
-// Lines given along a direction (x) and to its left (y), around a point.
-class Zeichnung {
+// A direction (x) and its left (y), around a point.
+class Lage {
  public:
-  Zeichnung(const XY& p, double winkel, std::vector<CMStrecke>& lines)
+  Lage(const XY& p, double winkel)
       : p_(p),
         c_(std::cos(winkel * lintavo::kRadiantJeGrad)),
-        s_(std::sin(winkel * lintavo::kRadiantJeGrad)),
-        lines_(lines) {}
+        s_(std::sin(winkel * lintavo::kRadiantJeGrad)) {}
 
-  void Strich(const XY& a, const XY& b) { lines_.emplace_back(Ort(a), Ort(b)); }
-
- private:
   XY Ort(const XY& p) const { return {p_.x + p.x * c_ - p.y * s_, p_.y + p.x * s_ + p.y * c_}; }
 
+ private:
   XY p_;
   double c_;
   double s_;
+};
+
+// How a fitting lies. The lever of a handle hangs, on whichever upright part.
+Lage LageVon(const CMBeschlag& beschlag, const XY& p, double angle) {
+  const bool haengt = std::sin(angle * lintavo::kRadiantJeGrad) <= lintavo::kParallelSinus;
+  return {p, beschlag.eTyp != eBeschlagGriff || haengt ? angle : angle + 180.0};
+}
+
+bool IstZeichenbar(const XY& p, double angle) {
+  return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(angle);
+}
+
+class Zeichnung {
+ public:
+  Zeichnung(const Lage& lage, std::vector<CMStrecke>& lines) : lage_(lage), lines_(lines) {}
+
+  void Strich(const XY& a, const XY& b) { lines_.emplace_back(lage_.Ort(a), lage_.Ort(b)); }
+
+ private:
+  Lage lage_;
   std::vector<CMStrecke>& lines_;
 };
 
+constexpr double kRosettenSchritt = 2.0 * lintavo::kPi / kRosettenEcken;
+
+// Corner i of the rosette; the lever reaches out between corners 0 and 1.
+XY Rosettenecke(int i) {
+  const double radius = kRosette / std::cos(kRosettenSchritt / 2.0);
+  return {radius * std::cos((i - 0.5) * kRosettenSchritt),
+          radius * std::sin((i - 0.5) * kRosettenSchritt)};
+}
+
+double HalberHebel() {
+  return kRosette * std::tan(kRosettenSchritt / 2.0);
+}
+
 void ZeichneGriff(Zeichnung& zeichnung) {
-  const double schritt = 2.0 * lintavo::kPi / kRosettenEcken;
-  const double radius = kRosette / std::cos(schritt / 2.0);
-  const auto ecke = [&](int i) {
-    return XY{radius * std::cos((i - 0.5) * schritt), radius * std::sin((i - 0.5) * schritt)};
-  };
-  for (int i = 0; i < kRosettenEcken; ++i) zeichnung.Strich(ecke(i), ecke(i + 1));
-  const double halb = kRosette * std::tan(schritt / 2.0);
+  for (int i = 0; i < kRosettenEcken; ++i) {
+    zeichnung.Strich(Rosettenecke(i), Rosettenecke(i + 1));
+  }
+  const double halb = HalberHebel();
   zeichnung.Strich({kRosette, -halb}, {kGriffLaenge, -halb});
   zeichnung.Strich({kGriffLaenge, -halb}, {kGriffLaenge, halb});
   zeichnung.Strich({kGriffLaenge, halb}, {kRosette, halb});
@@ -94,7 +122,33 @@ void ZeichneKreuz(Zeichnung& zeichnung) {
   zeichnung.Strich({-kKreuz, kKreuz}, {kKreuz, -kKreuz});
 }
 
+// The corners of what a fitting covers, counter-clockwise, in its own frame.
+std::vector<XY> Umrissecken(eBeschlagTypen typ) {
+  std::vector<XY> ecken;
+  if (typ == eBeschlagGriff) {
+    for (int i = 1; i <= kRosettenEcken; ++i) ecken.push_back(Rosettenecke(i));
+    ecken.push_back({kGriffLaenge, -HalberHebel()});
+    ecken.push_back({kGriffLaenge, HalberHebel()});
+  } else if (typ == eBeschlagBand) {
+    const double u = kBandLaenge / 2.0;
+    const double v = kBandBreite / 2.0;
+    ecken = {{-u, -v}, {u, -v}, {u, v}, {-u, v}};
+  }
+  return ecken;
+}
+
 }  // namespace
+
+GEOM2_Polygon lintavo::BeschlagUmriss(const CMBeschlag& beschlag, const XY& p, double angle) {
+  GEOM2_Polygon umriss;
+  if (!IstZeichenbar(p, angle)) return umriss;
+  const Lage lage = LageVon(beschlag, p, angle);
+  for (const XY& ecke : Umrissecken(beschlag.eTyp)) {
+    const XY ort = lage.Ort(ecke);
+    umriss.AddPunkt(ort.x, ort.y);
+  }
+  return umriss;
+}
 
 bool CMBeschlag::GetPunkt(const CMFensterSatz* sash, XY& p, double& angle) {
   const CMBauteil* bauteil = TragendesBauteil(sash, lBauteil);
@@ -121,10 +175,8 @@ bool CMBeschlag::GetPunkt(const CMFensterSatz* sash, XY& p) {
 }
 
 void CMBeschlag::GetZeichnung(std::vector<CMStrecke>& lines, const XY& p, double angle) const {
-  if (!std::isfinite(p.x) || !std::isfinite(p.y) || !std::isfinite(angle)) return;
-  // The lever of a handle hangs, on whichever upright part.
-  const bool haengt = std::sin(angle * lintavo::kRadiantJeGrad) <= lintavo::kParallelSinus;
-  Zeichnung zeichnung(p, eTyp != eBeschlagGriff || haengt ? angle : angle + 180.0, lines);
+  if (!IstZeichenbar(p, angle)) return;
+  Zeichnung zeichnung(LageVon(*this, p, angle), lines);
   if (eTyp == eBeschlagGriff) {
     ZeichneGriff(zeichnung);
   } else if (eTyp == eBeschlagBand) {

@@ -7,6 +7,7 @@
 #include "lintavo/geom/Toleranzen.h"
 #include "lintavo/model/CMException.h"
 #include "lintavo/model/SectionReach_intern.h"
+#include "lintavo/sash/Beschlagbild_intern.h"
 #include "lintavo/sash/CMFensterSatz.h"
 #include "lintavo/sash/Lamellenlage_intern.h"
 
@@ -138,6 +139,7 @@ Fitting FittingOf(CMBeschlag beschlag, const CMFensterSatz& fluegel) {
   if (!beschlag.GetPunkt(&fluegel, place, fitting.angle)) return fitting;
   fitting.place = place;
   beschlag.GetZeichnung(fitting.lines, place, fitting.angle);
+  fitting.outline = BeschlagUmriss(beschlag, place, fitting.angle);
   return fitting;
 }
 

@@ -116,6 +116,7 @@ struct Fitting {
   std::optional<XY> place;  ///< none where its part is not there
   double angle = 0.0;       ///< of the part that carries it
   std::vector<CMStrecke> lines{};
+  GEOM2_Polygon outline{};  ///< what a handle or a hinge covers; empty for others
 };
 
 struct Opening {

@@ -52,6 +52,13 @@ struct Line {
   long seite = -1;
 };
 
+/// What a handle or a hinge covers.
+struct FittingShape {
+  long fluegel = -1;   ///< index of the sash
+  long beschlag = -1;  ///< index of the fitting within it
+  std::vector<Point> outline;
+};
+
 /// The length that is written at a dimension line.
 struct Text {
   long masz = -1;        ///< index of the dimension
@@ -77,6 +84,9 @@ struct Scene {
   std::vector<Shape> shapes{};
   std::vector<Line> lines{};
   std::vector<Text> texts{};
+  /// The surfaces of handles and hinges, painted over all shapes below their own lines; none
+  /// where edges are shown instead of shapes, which are cut there.
+  std::vector<FittingShape> beschlaege{};
   std::vector<Point> umriss{};  ///< outline of the window's frame, drawn over the shapes
   double breite = 0.0;          ///< the window's overall width
   double hoehe = 0.0;           ///< and height
