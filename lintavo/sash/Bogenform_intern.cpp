@@ -150,44 +150,60 @@ bool SchneidetNachRechts(const GEOM2_Polygon& polygon, double x, int i) {
   return SchneideKante(polygon, x, i, schnitt) && polygon.GetKante(i, a, b) && a.x < b.x;
 }
 
-void AddEcken(const GEOM2_Polygon& von, int erste, int letzte, GEOM2_Polygon& polygon) {
-  for (int i = erste; i <= letzte; ++i) polygon.AddPunkt(von.GetEckpunkt(i));
+// The strip of the whole arch that a sash keeps: links <= x <= rechts.
+struct Streifen {
+  // Whether a vertex lies so close beside a cut that the clean-up would keep it in place of
+  // the crossing: the upright side of the sash would slant. One on the cut is the crossing.
+  bool IsNebenSchnitt(const GEOM2_Eckpunkt& ecke) const {
+    const double abstand = std::min(std::fabs(ecke.x - links), std::fabs(ecke.x - rechts));
+    return abstand > kRechenrauschen && abstand <= kBogenBereinigung;
+  }
+
+  double links;
+  double rechts;
+};
+
+void AddEcken(const GEOM2_Polygon& von, int erste, int letzte, const Streifen& streifen,
+              GEOM2_Polygon& polygon) {
+  for (int i = erste; i <= letzte; ++i) {
+    const GEOM2_Eckpunkt& ecke = von.GetEckpunkt(i);
+    if (!streifen.IsNebenSchnitt(ecke)) polygon.AddPunkt(ecke);
+  }
 }
 
-// Cuts the whole arch to links <= x <= rechts: along the lower edge from the
+// Cuts the whole arch to a strip: along the lower edge from the
 // left line to the right one, up, and back along the upper edge. Each search
 // goes on from the edge of the crossing before, so that a flat top, which both
 // lines cross, is not lost. Only after the lower right crossing the search
 // moves on, past the neighbour too when the crossing is their common vertex; but
 // a neighbour that leads back, at the end of the span, is the upper edge.
-void SchneideStreifen(const GEOM2_Polygon& voll, double links, double rechts,
-                      GEOM2_Polygon& outline) {
+void SchneideStreifen(const GEOM2_Polygon& voll, const Streifen& streifen, GEOM2_Polygon& outline) {
   outline.Reservieren(kGroessteEckenzahl);
   int suche = 0;  // edge from which the next search starts
   int folge = 0;  // vertex that comes next in the outline
   Schnitt schnitt;
-  if (FindeSchnitt(voll, links, suche, schnitt)) {
+  if (FindeSchnitt(voll, streifen.links, suche, schnitt)) {
     outline.AddPunkt(schnitt.punkt.x, schnitt.punkt.y);
     suche = schnitt.kante;
     folge = suche + 1;
   }
-  if (FindeSchnitt(voll, rechts, suche, schnitt)) {
-    AddEcken(voll, folge, schnitt.kante, outline);
+  if (FindeSchnitt(voll, streifen.rechts, suche, schnitt)) {
+    AddEcken(voll, folge, schnitt.kante, streifen, outline);
     outline.AddPunkt(schnitt.punkt.x, schnitt.punkt.y);
     suche = schnitt.kante + 1;
-    if (SchneidetNachRechts(voll, rechts, suche)) ++suche;
+    if (SchneidetNachRechts(voll, streifen.rechts, suche)) ++suche;
     folge = suche;
   }
-  if (FindeSchnitt(voll, rechts, suche, schnitt)) {
+  if (FindeSchnitt(voll, streifen.rechts, suche, schnitt)) {
     outline.AddPunkt(schnitt.punkt.x, schnitt.punkt.y);
     suche = schnitt.kante;
     folge = suche + 1;
   }
-  if (FindeSchnitt(voll, links, suche, schnitt)) {
-    AddEcken(voll, folge, schnitt.kante, outline);
+  if (FindeSchnitt(voll, streifen.links, suche, schnitt)) {
+    AddEcken(voll, folge, schnitt.kante, streifen, outline);
     outline.AddPunkt(schnitt.punkt.x, schnitt.punkt.y);
   } else {
-    AddEcken(voll, folge, voll.GetAnzahl() - 1, outline);
+    AddEcken(voll, folge, voll.GetAnzahl() - 1, streifen, outline);
   }
 }
 
@@ -220,8 +236,10 @@ void BaueBogen(const Bogenform& form, GEOM2_Polygon& outline) {
   PruefeEndlich(voll);
   if (form.Rand.links >= kNullLaenge || form.Rand.rechts >= kNullLaenge) {
     const double linkesEnde = form.LinkesEnde();
-    SchneideStreifen(voll, std::max(form.Box.xmin, linkesEnde),
-                     std::min(form.Box.xmax, linkesEnde + form.Spanne()), outline);
+    SchneideStreifen(
+        voll,
+        {std::max(form.Box.xmin, linkesEnde), std::min(form.Box.xmax, linkesEnde + form.Spanne())},
+        outline);
     PruefeEndlich(outline);
     outline.KurzeKantenEntfernen(kBogenBereinigung);
   } else {
