@@ -96,13 +96,17 @@ void CMFenster::RahmenUmrissBilden(const std::vector<GEOM2_Polygon>& grundformen
 void CMFenster::RahmenUmrissBeginnen(const std::vector<GEOM2_Polygon>& grundformen) {
   GEOM2_Polygon& umriss = rahmen_.RahmenPolygon;
   const auto count = static_cast<std::size_t>(umriss.GetAnzahl());
+  const auto istBogenseite = [&](int i) {
+    return lintavo::IstBogenseite(umriss, i, GetRahmenAbschnitt(), kGroessteWendung);
+  };
+  // Usually it starts at a corner.
+  if (count == 0 || !istBogenseite(0) || !istBogenseite(umriss.GetAnzahl() - 1)) return;
   lintavo::Arbeitsspeicher speicher;
   const lintavo::Liste<bool> gebogen =
       lintavo::Bogenseiten(umriss, GetRahmenAbschnitt(), kGroessteWendung, &speicher);
   const auto imBogen = [&](std::size_t i) {
     return gebogen[i] && gebogen[(i + count - 1) % count];
   };
-  if (count == 0 || !imBogen(0)) return;
   const std::vector<GEOM2_Eckpunkt> ecken(umriss.GetEcken().begin(), umriss.GetEcken().end());
   for (const GEOM2_Polygon& form : grundformen) {
     for (const GEOM2_Eckpunkt& ecke : form.GetEcken()) {

@@ -12,4 +12,7 @@ namespace lintavo {
 Liste<bool> Bogenseiten(const GEOM2_Polygon& polygon, double maxLength, double maxAngle,
                         Speicher speicher);
 
+/// The same of side i alone.
+bool IstBogenseite(const GEOM2_Polygon& polygon, int i, double maxLength, double maxAngle);
+
 }  // namespace lintavo
