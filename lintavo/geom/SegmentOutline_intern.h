@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <span>
 
 #include "lintavo/geom/GEOM2_Achse.h"
 #include "lintavo/geom/XY.h"
@@ -34,8 +35,7 @@ struct LeftCorners {
   std::size_t count = 0;
 
   void Add(const XY& p) { places[count++] = p; }
-  const XY* begin() const { return places.data(); }
-  const XY* end() const { return places.data() + count; }
+  std::span<const XY> All() const { return {places.data(), count}; }
 };
 
 /// The corners along an axis whose ends are cut by its cut angles.

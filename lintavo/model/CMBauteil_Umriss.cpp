@@ -60,7 +60,8 @@ Liste<XY> LinkeSeite(const std::vector<GEOM2_Achse>& achsen, const SectionReach&
   };
   for (const GEOM2_Achse& achse : achsen) {
     if (achse.bLinkeSeite) {
-      for (const XY& p : lintavo::LeftCornersOf(achse, reach)) anhaengen(p);
+      const lintavo::LeftCorners links = lintavo::LeftCornersOf(achse, reach);
+      for (const XY& p : links.All()) anhaengen(p);
     } else {
       anhaengen(lintavo::VanishedSideOf(achse));
     }
@@ -95,7 +96,8 @@ bool CMBauteil::GetUmrissPunkteAchsSegment(long i, GEOM2_Polygon& umriss) const 
   // The ends of an outer extra part stand free, those of all other kinds meet
   // their neighbours.
   const int schnitt = IsZusatzteilAussen() ? kSichtbar : kUnsichtbar;
-  AddSeiten(std::array{s.p1, s.p2}, lintavo::LeftCornersOf(Achse(i), reach), schnitt, umriss);
+  const lintavo::LeftCorners links = lintavo::LeftCornersOf(Achse(i), reach);
+  AddSeiten(std::array{s.p1, s.p2}, links.All(), schnitt, umriss);
   return true;
 }
 
