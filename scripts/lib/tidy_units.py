@@ -54,7 +54,8 @@ def main():
         for entry in json.loads(commands.read_text())
         if Path(entry["file"]).is_relative_to(root) and folder(entry).parts[0] in sys.argv[3:]
     }
-    by_folder = groupby(sorted(entries.values(), key=lambda e: e["file"]), folder)
+    # A folder's files stay together, whatever folders sort between their names.
+    by_folder = groupby(sorted(entries.values(), key=lambda e: (folder(e), e["file"])), folder)
     groups = [("_".join(name.parts), list(group)) for name, group in by_folder]
     with ThreadPoolExecutor(os.cpu_count()) as pool:
         units = sum(pool.map(lambda group: units_of(*group, output), groups), [])
