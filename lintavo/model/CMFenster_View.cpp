@@ -58,6 +58,17 @@ std::vector<int> OrderFrom(ViewSide side, const CMFenster& fenster, const Window
   return order;
 }
 
+// The contour around the frame's outer extra parts; empty where these leave none.
+GEOM2_Polygon OuterOf(const CMFensterSatz& rahmen) {
+  GEOM2_Polygon outer;
+  try {
+    if (!rahmen.ErzeugeRahmenAussenPolygon(outer)) outer.Clear();
+  } catch (const CMException&) {
+    outer.Clear();
+  }
+  return outer;
+}
+
 // --- the grid and its dimensions --------------------------------------------------
 
 std::vector<double> Places(int count, double (CMAchsen::*place)(int) const, const CMAchsen& axes) {
@@ -132,7 +143,7 @@ WindowView CMFenster::MakeView() const {
   view.axesX = Places(achsen_.iGetCntVerti(), &CMAchsen::dGetPosVerti, achsen_);
   view.axesY = Places(achsen_.iGetCntHori(), &CMAchsen::dGetPosHori, achsen_);
   view.frame = lintavo::FrameViewOf(rahmen_);
-  if (!rahmen_.ErzeugeRahmenAussenPolygon(view.outer)) view.outer.Clear();
+  view.outer = OuterOf(rahmen_);
   for (int i = 0; i < GetAnzahlFluegel(); ++i) {
     view.sashes.push_back(lintavo::SashViewOf(*GetFluegelPtr(i), i, rahmen_));
   }
